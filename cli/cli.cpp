@@ -1,0 +1,211 @@
+#include "cli.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/text_output.h"
+#include "core/auto_stationing.h"
+#include "core/curve_file.h"
+#include "core/curve_solver.h"
+#include "core/elevations.h"
+#include "core/numbers.h"
+#include "files/curve_file_io.h"
+
+#define GW_STR2(x) #x
+#define GW_STR(x) GW_STR2(x)
+
+namespace gw::cli {
+namespace {
+
+constexpr const char* kVersion =
+    "gradewise-cli " GW_STR(GW_VERSION_MAJOR) "." GW_STR(GW_VERSION_MINOR) "." GW_STR(GW_VERSION_REVISION);
+
+constexpr const char* kHelp =
+    "Usage:\n"
+    "  gradewise-cli solve FILE [--elevations] [--json] [-o OUT]\n"
+    "  gradewise-cli autostation FILE (--points N | --begin WHOLE+PLUS --increment WHOLE+PLUS)\n"
+    "                             [--json] [-o OUT]\n"
+    "  gradewise-cli report FILE\n"
+    "  gradewise-cli --version\n"
+    "  gradewise-cli --help\n"
+    "\n"
+    "Solves the vertical curve stored in a Gradewise curve file (.gwf) in the mode it\n"
+    "was saved in, exactly as the Calc button does.\n"
+    "\n"
+    "  solve          solve the curve; --elevations also recomputes the elevation rows\n"
+    "  autostation    solve, then lay out the elevation rows by a number of points from\n"
+    "                 PVC to PVT (--points, at most 20) or from a beginning station in\n"
+    "                 steps of an increment (--begin 10+0 --increment 0+50)\n"
+    "  report         print the lines of the curve report\n"
+    "\n"
+    "  --json         write the curve as one JSON object instead of a curve file\n"
+    "  -o OUT         write to OUT instead of standard output\n"
+    "\n"
+    "Exit status: 0 done; 1 a check refused the calculation (its message on stderr);\n"
+    "2 bad arguments or an unreadable file; 3 an elevation station lies outside the\n"
+    "curve (the curve as far as it was computed is still written).\n";
+
+struct Options {
+    std::string command;
+    std::string file;
+    bool elevations = false;
+    bool json = false;
+    std::optional<std::string> output;
+    std::optional<std::string> points;
+    std::optional<std::string> begin;
+    std::optional<std::string> increment;
+};
+
+struct UsageError {
+    std::string message;
+};
+
+// "10+50" -> "10" and "50"; a leading sign belongs to the whole part ("-1+5").
+bool SplitStationArgument(const std::string& text, std::string& whole, std::string& plus) {
+    size_t at = text.find('+', 1);
+    if (text.empty() || at == std::string::npos) return false;
+    whole = text.substr(0, at);
+    plus = text.substr(at + 1);
+    return !whole.empty() && !plus.empty();
+}
+
+Options Parse(const std::vector<std::string>& args) {
+    Options o;
+    if (args.empty()) throw UsageError{"no command given"};
+    o.command = args[0];
+    if (o.command != "solve" && o.command != "autostation" && o.command != "report") {
+        throw UsageError{"unknown command '" + o.command + "'"};
+    }
+    auto value = [&](size_t& i) -> std::string {
+        if (i + 1 >= args.size()) throw UsageError{args[i] + " needs a value"};
+        return args[++i];
+    };
+    for (size_t i = 1; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        const bool producesCurve = o.command != "report";
+        if (a == "--elevations" && o.command == "solve") {
+            o.elevations = true;
+        } else if (a == "--json" && producesCurve) {
+            o.json = true;
+        } else if (a == "-o" && producesCurve) {
+            o.output = value(i);
+        } else if (a == "--points" && o.command == "autostation") {
+            o.points = value(i);
+        } else if (a == "--begin" && o.command == "autostation") {
+            o.begin = value(i);
+        } else if (a == "--increment" && o.command == "autostation") {
+            o.increment = value(i);
+        } else if (!a.empty() && a[0] == '-' && a != "-") {
+            throw UsageError{"unknown option '" + a + "' for " + o.command};
+        } else if (o.file.empty()) {
+            o.file = a;
+        } else {
+            throw UsageError{"more than one FILE given ('" + o.file + "' and '" + a + "')"};
+        }
+    }
+    if (o.file.empty()) throw UsageError{o.command + " needs a curve FILE"};
+    if (o.command == "autostation") {
+        const bool spacing = o.begin || o.increment;
+        if (o.points && spacing) throw UsageError{"give either --points or --begin with --increment, not both"};
+        if (!o.points && !(o.begin && o.increment)) {
+            throw UsageError{"autostation needs --points N, or --begin WHOLE+PLUS with --increment WHOLE+PLUS"};
+        }
+    }
+    return o;
+}
+
+// The auto-stationing dialog answered as the user would have filled it in.
+Outcome AnswerDialog(const Options& o, const CurveSheet& sheet, AutoStationing& dialog) {
+    dialog = NewAutoStationing(sheet);
+    if (o.points) {
+        dialog.txtPoints = *o.points;
+        return dialog.Accept();
+    }
+    dialog.ChooseSpacing(sheet.elevations);
+    if (!SplitStationArgument(*o.begin, dialog.txtBeginSTA, dialog.txtBeginSTAM)) {
+        throw UsageError{"--begin takes a station as WHOLE+PLUS, for example 10+0"};
+    }
+    if (!SplitStationArgument(*o.increment, dialog.txtIncSTA, dialog.txtIncSTAM)) {
+        throw UsageError{"--increment takes a station as WHOLE+PLUS, for example 0+50"};
+    }
+    return dialog.Accept();
+}
+
+int Execute(const Options& o, std::ostream& out, std::ostream& err) {
+    std::string bytes, error;
+    if (!ReadFileBytes(o.file, bytes, error)) {
+        err << "gradewise-cli: cannot read '" << o.file << "': " << error << "\n";
+        return kUsage;
+    }
+    CurveSheet sheet = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
+    if (o.command == "report") {
+        out << ReportText(sheet);
+        return kDone;
+    }
+
+    if (Outcome refused = Calculate(sheet)) {
+        err << refused->message << "\n";
+        return kRefused;
+    }
+    int status = kDone;
+    auto stopAt = [&](const Outcome& outcome) {
+        if (outcome) {
+            err << outcome->message << "\n";
+            status = kStationOffCurve;
+        }
+    };
+    const bool showElevations = o.elevations || o.command == "autostation";
+    if (showElevations && (IsNumericText(sheet.txtPVCSTA) || IsNumericText(sheet.txtPVCSTAM))) {
+        Outcome shown = ActivateElevations(sheet);
+        // Auto-stationing replaces every row, so a stored row off the curve does not count.
+        if (o.command == "solve") stopAt(shown);
+    }
+    if (o.command == "autostation") {
+        AutoStationing dialog;
+        if (Outcome refused = AnswerDialog(o, sheet, dialog)) {
+            err << refused->message << "\n";
+            return kRefused;
+        }
+        stopAt(ApplyAutoStationing(sheet, dialog));
+    }
+
+    const std::string text = o.json ? CurveJson(sheet) : CurveFileBytes(sheet);
+    if (o.output) {
+        if (!WriteFileBytes(*o.output, text, error)) {
+            err << "gradewise-cli: cannot write '" << *o.output << "': " << error << "\n";
+            return kUsage;
+        }
+    } else {
+        out << text;
+    }
+    return status;
+}
+
+}  // namespace
+
+int Run(int argc, char** argv, std::ostream& out, std::ostream& err) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    if (args.size() == 1 && (args[0] == "--help" || args[0] == "-h")) {
+        out << kHelp;
+        return kDone;
+    }
+    if (args.size() == 1 && args[0] == "--version") {
+        out << kVersion << "\n";
+        return kDone;
+    }
+    for (const std::string& a : args) {
+        if (a == "--help" || a == "-h") {
+            out << kHelp;
+            return kDone;
+        }
+    }
+    try {
+        return Execute(Parse(args), out, err);
+    } catch (const UsageError& e) {
+        err << "gradewise-cli: " << e.message << "\nTry 'gradewise-cli --help'.\n";
+        return kUsage;
+    }
+}
+
+}  // namespace gw::cli

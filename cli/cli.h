@@ -1,0 +1,17 @@
+#pragma once
+// gradewise-cli: solve, auto-station and report curve files from scripts.
+
+#include <ostream>
+
+namespace gw::cli {
+
+enum ExitCode {
+    kDone = 0,
+    kRefused = 1,       // a check refused the calculation
+    kUsage = 2,         // bad arguments or an unreadable file
+    kStationOffCurve = 3,  // Calculate TOS stopped at a station outside the curve
+};
+
+int Run(int argc, char** argv, std::ostream& out, std::ostream& err);
+
+}  // namespace gw::cli

@@ -1,0 +1,99 @@
+#include "elevations.h"
+
+#include <cmath>
+
+#include "field_checks.h"
+#include "messages.h"
+#include "numbers.h"
+#include "stations.h"
+
+namespace gw {
+namespace {
+
+// Adds a term to the elevation held as text, the way the field takes it: through
+// the plain text and the number format.
+std::string ThroughField(double value) { return FormatNumber(ReadNumber(PlainNumberText(value))); }
+
+}  // namespace
+
+Outcome CalculateTOS(CurveSheet& sheet) {
+    ElevationTable& t = sheet.elevations;
+    t.bCalcOK = false;
+    const double K = StationLength(sheet.lblMorF);
+    for (int i = 0; i < kRowCount; ++i) {
+        ElevationRow& row = t.rows[i];
+        row.txtTotalTopSlab1.clear();
+        const double T = ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1);
+        if (T == 0) continue;
+        const double pvc = ReadNumber(t.txtPVCSTA) * K + ReadNumber(t.txtPVCSTAM);
+        const double pvt = ReadNumber(t.txtPVTSTA) * K + ReadNumber(t.txtPVTSTAM);
+        if (pvc < pvt && (T < pvc || T > pvt)) {
+            return Refusal{std::string(msg::kStationOffCurve), "txtTOTSTAM1", i};
+        }
+        const double g1 = ReadNumber(sheet.txtG1) / 100;
+        const double g2 = ReadNumber(sheet.txtG2) / 100;
+        const double L = ReadNumber(sheet.txtLC);
+        const double E0 = ReadNumber(sheet.txtPVCEval);
+        const double a = (g2 - g1) / L / 2;
+        const double x = T - pvc;
+        const double E = E0 + g1 * x + a * (x * x);
+        // A length of curve of zero (emptied after a Calc) has no parabola: the row
+        // keeps an empty elevation instead of a number made up from a division by zero.
+        if (!std::isfinite(E)) continue;
+        row.txtTotalTopSlab1 = ThroughField(E);
+        if (IsNumericText(t.txtVOffset)) {
+            row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + ReadNumber(t.txtVOffset));
+        }
+        if (IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope)) {
+            const double cross = (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset);
+            row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + cross);
+        }
+    }
+    t.bCalcOK = true;
+    return std::nullopt;
+}
+
+bool CopyCurveStations(CurveSheet& sheet) {
+    ElevationTable& t = sheet.elevations;
+    const bool differed = t.txtPVCSTA != sheet.txtPVCSTA || t.txtPVCSTAM != sheet.txtPVCSTAM ||
+                          t.txtPVTSTA != sheet.txtPVTSTA || t.txtPVTSTAM != sheet.txtPVTSTAM;
+    t.txtPVCSTA = sheet.txtPVCSTA;
+    t.txtPVCSTAM = sheet.txtPVCSTAM;
+    t.txtPVTSTA = sheet.txtPVTSTA;
+    t.txtPVTSTAM = sheet.txtPVTSTAM;
+    return differed;
+}
+
+Outcome ActivateElevations(CurveSheet& sheet) {
+    if (CopyCurveStations(sheet)) return CalculateTOS(sheet);
+    return std::nullopt;
+}
+
+Outcome ConfirmElevations(CurveSheet& sheet) { return CalculateTOS(sheet); }
+
+void ClearElevations(CurveSheet& sheet) {
+    sheet.changed = true;
+    sheet.elevations.ClearRowsAndOffsets();
+}
+
+std::vector<std::string_view> CheckRowWholeStation(const CurveSheet& sheet, int row) {
+    std::vector<std::string_view> messages;
+    const std::string& text = sheet.elevations.rows.at(row).txtTOTSTA1;
+    if (text.empty()) return messages;
+    const double value = ReadNumber(text);
+    if (!IsNumericText(text)) messages.push_back(msg::kMustBeNumeric);
+    if (ReadNumber(sheet.elevations.txtPVCSTA) > value) messages.push_back(msg::kAtLeastPVC);
+    if (ReadNumber(sheet.elevations.txtPVTSTA) < value) messages.push_back(msg::kAtMostPVT);
+    return messages;
+}
+
+std::vector<std::string_view> CheckRowPlus(const CurveSheet& sheet, int row) {
+    std::vector<std::string_view> messages;
+    const std::string& text = sheet.elevations.rows.at(row).txtTOTSTAM1;
+    if (text.empty()) return messages;
+    if (!IsNumericText(text)) messages.push_back(msg::kMustBeNumeric);
+    if (auto tooLarge = PlusPartTooLarge(ReadNumber(text), sheet.lblMorF)) messages.push_back(*tooLarge);
+    return messages;
+}
+
+}  // namespace gw

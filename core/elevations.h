@@ -1,0 +1,36 @@
+#pragma once
+// Elevations at stations along a solved curve, and the rules of the elevations window.
+
+#include <string_view>
+#include <vector>
+
+#include "curve_sheet.h"
+#include "refusal.h"
+
+namespace gw {
+
+// Calculate TOS: the elevation of every row with the offsets and cross slope.
+// Stops at the first station outside the PVC-PVT range with a refusal that focuses
+// that row's plus part; bCalcOK is true only after a run that passed row 19.
+Outcome CalculateTOS(CurveSheet& sheet);
+
+// Copies the curve's four PVC/PVT station texts into the elevations window;
+// true when any of them differed from the copy it replaced.
+bool CopyCurveStations(CurveSheet& sheet);
+
+// Showing the elevations window: copy the stations and recompute every row when
+// they moved.
+Outcome ActivateElevations(CurveSheet& sheet);
+
+// OK: recompute; the window may hide only when the result is empty.
+Outcome ConfirmElevations(CurveSheet& sheet);
+
+// Clear All of the elevations window: rows and offsets emptied, curve marked changed.
+void ClearElevations(CurveSheet& sheet);
+
+// Messages on leaving the whole-station or plus field of a row, in the order shown.
+// A text like "x" can draw two messages.
+std::vector<std::string_view> CheckRowWholeStation(const CurveSheet& sheet, int row);
+std::vector<std::string_view> CheckRowPlus(const CurveSheet& sheet, int row);
+
+}  // namespace gw

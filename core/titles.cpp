@@ -1,0 +1,54 @@
+#include "titles.h"
+
+namespace gw {
+namespace {
+constexpr std::string_view kUntitled = "Untitled";
+}
+
+std::string TitlePrefix(bool metric) {
+    return metric ? "Vertical Curve - Metric: " : "Vertical Curve - English: ";
+}
+
+std::string UntitledTitle(bool metric) { return TitlePrefix(metric) + std::string(kUntitled); }
+
+bool IsUntitledTitle(std::string_view title) {
+    return title.size() >= kUntitled.size() && title.substr(title.size() - kUntitled.size()) == kUntitled;
+}
+
+std::string PathFromTitle(std::string_view title) {
+    size_t colon = title.find(':');
+    if (colon == std::string_view::npos || colon + 2 > title.size()) return {};
+    return std::string(title.substr(colon + 2));
+}
+
+std::string CurveNameFromTitle(std::string_view title) {
+    return IsUntitledTitle(title) ? std::string(kUntitled) : PathFromTitle(title);
+}
+
+std::string TitleAfterSave(std::string_view untitledTitle, std::string_view path) {
+    return std::string(untitledTitle.substr(0, untitledTitle.size() - kUntitled.size())) + " " +
+           std::string(path);
+}
+
+std::string TitleAfterSaveAs(std::string_view title, std::string_view path) {
+    size_t colon = IsUntitledTitle(title) ? std::string_view::npos : title.find(':');
+    // The colon's position counts from 1, so position 0 means "untitled".
+    if (colon != std::string_view::npos) {
+        return std::string(title.substr(0, std::min(title.size(), colon + 2))) + std::string(path);
+    }
+    return std::string(title.substr(0, title.size() - std::min(title.size(), kUntitled.size()))) +
+           std::string(path);
+}
+
+std::string TitleForLoadedFile(std::string_view currentTitle, std::string_view storedUnits,
+                               std::string_view path) {
+    if (storedUnits == "Metric") return TitlePrefix(true) + std::string(path);
+    if (storedUnits == "English") return TitlePrefix(false) + std::string(path);
+    return std::string(currentTitle);
+}
+
+std::string CloseQuestion(std::string_view curveName) {
+    return "The text in [" + std::string(curveName) + "] has changed.\r\nDo you want to save the changes?";
+}
+
+}  // namespace gw

@@ -1,0 +1,177 @@
+#include "core/curve_file.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "core/curve_solver.h"
+#include "core/elevations.h"
+#include "sheet_builders.h"
+
+namespace gw {
+namespace {
+
+std::string Line(const std::string& bytes, int n) {  // 1-based, without CRLF
+    size_t start = 0;
+    for (int i = 1; i < n; ++i) start = bytes.find("\r\n", start) + 2;
+    return bytes.substr(start, bytes.find("\r\n", start) - start);
+}
+
+std::string EmptyTexts(int n) {
+    std::string s;
+    for (int i = 0; i < n; ++i) s += i ? ",\"\"" : "\"\"";
+    return s;
+}
+
+TEST(CurveFileWriteTest, TheDocumentedExampleByteForByte) {
+    CurveSheet s = NewCurveSheet("English");
+    s.txtPVISTA = "12";
+    s.txtPVISTAM = "45.5";
+    s.txtPVIEval = "100";
+    s.txtG1 = "2";
+    s.txtG2 = "-1.5";
+    s.txtLC = "400";
+    const std::string expected = "\"\",\"English\",,,,\"45.5\"\r\n"
+                                 "\"100\",\"12\",\"-1.5\",\"2\",\"400\",\"\",\"\"\r\n"
+                                 "\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
+                                 "#TRUE#,#FALSE#,\"\",\"\"\r\n" +
+                                 EmptyTexts(20) + "\r\n" + EmptyTexts(20) + "\r\n" + EmptyTexts(20) + "\r\n" +
+                                 EmptyTexts(3) + "\r\n";
+    EXPECT_EQ(CurveFileBytes(s), expected);
+}
+
+TEST(CurveFileWriteTest, StoresTextsUnchangedAndTheModeAsOptions) {
+    CurveSheet s = NewCurveSheet("Metric");
+    SwitchToPVCPVTMode(s);
+    s.txtPVCSTAM = "12.50";
+    s.txtPVCEval = "abc def";
+    s.elevations.rows[19].txtTotalTopSlab1 = "7";
+    s.elevations.txtXSlope = "-2";
+    const std::string bytes = CurveFileBytes(s);
+    EXPECT_EQ(Line(bytes, 1), "\"\",\"Metric\",,,,\"\"");
+    EXPECT_EQ(Line(bytes, 3), "\"\",\"abc def\",\"12.50\",\"\",\"\",\"\"");
+    EXPECT_EQ(Line(bytes, 4), "#FALSE#,#TRUE#,\"\",\"\"");
+    EXPECT_EQ(Line(bytes, 7), EmptyTexts(19) + ",\"7\"");
+    EXPECT_EQ(Line(bytes, 8), "\"\",\"\",\"-2\"");
+    EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
+}
+
+TEST(CurveFileReadTest, LoadingRestoresThePvcPvtModeWithEveryText) {
+    CurveSheet s = test::EndsSheet("English", "8", "0", "96", "12", "0", "96", "2");
+    ASSERT_FALSE(Calculate(s));
+    ASSERT_FALSE(ActivateElevations(s));
+    s.elevations.rows[2] = {"9", "0", "x"};
+    CurveSheet loaded = LoadStoredCurve(ParseCurveFile(CurveFileBytes(s)), "Metric");
+    EXPECT_TRUE(loaded.optPVCPVT);
+    EXPECT_FALSE(loaded.optPVI);
+    EXPECT_EQ(loaded.lblMorF, "English");
+    EXPECT_EQ(loaded.txtG2, "-2.0");
+    EXPECT_EQ(loaded.lblSDL, "SSD");
+    EXPECT_EQ(loaded.elevations.rows[2].txtTotalTopSlab1, "x");
+    EXPECT_FALSE(loaded.changed);
+    EXPECT_EQ(CurveFileBytes(loaded), CurveFileBytes(s));
+    // The window's own station copies are not part of the file.
+    EXPECT_EQ(loaded.elevations.txtPVCSTA, "");
+}
+
+TEST(CurveFileReadTest, AShortFileGivesEmptyFieldsAndBothOptionsOff) {
+    const std::string bytes = "\"SSD\",\"English\",,,,\"5\"\r\n\"1\",\"2\"";
+    CurveSheet stored = ParseCurveFile(bytes);
+    EXPECT_EQ(stored.lblSDL, "SSD");
+    EXPECT_EQ(stored.txtPVISTAM, "5");
+    EXPECT_EQ(stored.txtPVIEval, "1");
+    EXPECT_EQ(stored.txtPVISTA, "2");
+    EXPECT_EQ(stored.txtG2, "");
+    EXPECT_FALSE(stored.optPVI);
+    EXPECT_FALSE(stored.optPVCPVT);
+    // The missing states turn the new window's PVI option off without a click, so
+    // no mode is on and nothing stored is cleared.
+    CurveSheet loaded = LoadStoredCurve(stored, "Metric");
+    EXPECT_FALSE(loaded.optPVI);
+    EXPECT_FALSE(loaded.optPVCPVT);
+    EXPECT_EQ(loaded.txtPVISTAM, "5");
+}
+
+TEST(CurveFileReadTest, FourLinesLoadWithAnEmptyElevationsWindow) {
+    CurveSheet s = test::PviSheet("Metric", "1", "500", "50", "-1", "1", "200");
+    test::FillRows(s);
+    std::string bytes = CurveFileBytes(s);
+    size_t end = 0;
+    for (int i = 0; i < 4; ++i) end = bytes.find("\r\n", end) + 2;
+    CurveSheet loaded = LoadStoredCurve(ParseCurveFile(bytes.substr(0, end)), "English");
+    EXPECT_EQ(loaded.txtLC, "200");
+    for (const ElevationRow& r : loaded.elevations.rows) EXPECT_EQ(r.txtTOTSTA1, "");
+}
+
+TEST(CurveFileReadTest, ValuesFlowAcrossLineBreaks) {
+    // Six values per line are not required: values are read one after another.
+    const std::string bytes = "\"\",\"Metric\"\n,,,\"7\",\"100\"\r\"3\"";
+    CurveSheet stored = ParseCurveFile(bytes);
+    EXPECT_EQ(stored.lblMorF, "Metric");
+    EXPECT_EQ(stored.txtPVISTAM, "7");
+    EXPECT_EQ(stored.txtPVIEval, "100");
+    EXPECT_EQ(stored.txtPVISTA, "3");
+}
+
+TEST(CurveFileReadTest, UnusualValuesReadWithoutFailing) {
+    // Unquoted text, a stray quote, trailing garbage after a closing quote.
+    const std::string bytes = "SSD , Metric,x,y,z,\"a\"b\"\r\n  \"sp ace\"  ,\"unterminated";
+    CurveSheet stored = ParseCurveFile(bytes);
+    EXPECT_EQ(stored.lblSDL, "SSD");
+    EXPECT_EQ(stored.lblMorF, "Metric");
+    EXPECT_EQ(stored.txtPVISTAM, "a");
+    EXPECT_EQ(stored.txtPVIEval, "sp ace");
+    EXPECT_EQ(stored.txtPVISTA, "unterminated");
+}
+
+TEST(CurveFileReadTest, BothOptionsTrueEndInThePviModeCleared) {
+    CurveSheet s = test::PviSheet("English", "10", "0", "100", "2", "-2", "400");
+    s.optPVCPVT = true;  // never written by the program
+    CurveSheet loaded = LoadStoredCurve(ParseCurveFile(CurveFileBytes(s)), "Metric");
+    EXPECT_TRUE(loaded.optPVI);
+    EXPECT_FALSE(loaded.optPVCPVT);
+    EXPECT_EQ(loaded.txtPVISTA, "");  // the PVI click cleared what was stored
+}
+
+TEST(CurveFileReadTest, GarbageNeverHangsOrCrashes) {
+    std::mt19937 rng(12345);
+    for (int round = 0; round < 200; ++round) {
+        std::string bytes(static_cast<size_t>(rng() % 2000), '\0');
+        for (char& c : bytes) c = static_cast<char>(rng() % 256);
+        CurveSheet loaded = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
+        EXPECT_FALSE(loaded.optPVI && loaded.optPVCPVT);
+    }
+    const std::string endless(5'000'000, 'x');
+    EXPECT_EQ(ParseCurveFile(endless).lblSDL.size(), endless.size());
+    EXPECT_EQ(ParseCurveFile(std::string(1000, '\0')).lblMorF, "");
+}
+
+// Every file the writer produces reads back to the same sheet.
+TEST(CurveFileRoundTripTest, WrittenSheetsReadBackUnchanged) {
+    std::mt19937 rng(2024);
+    const std::string alphabet = "0123456789.-+eE abcxyzN/A#\t!;:'";
+    auto randomText = [&] {
+        std::string t(rng() % 12, ' ');
+        for (char& c : t) c = alphabet[rng() % alphabet.size()];
+        return t;
+    };
+    for (int round = 0; round < 500; ++round) {
+        CurveSheet s = NewCurveSheet(round % 2 ? "Metric" : "English");
+        if (round % 3 == 0) SwitchToPVCPVTMode(s);
+        s.lblSDL = randomText();
+        for (std::string_view name : CurveSheet::CurveFieldNames()) *s.Field(name) = randomText();
+        for (ElevationRow& r : s.elevations.rows) r = {randomText(), randomText(), randomText()};
+        s.elevations.txtVOffset = randomText();
+        s.elevations.txtHOffset = randomText();
+        s.elevations.txtXSlope = randomText();
+
+        const std::string bytes = CurveFileBytes(s);
+        CurveSheet back = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
+        ASSERT_EQ(CurveFileBytes(back), bytes) << "round " << round;
+        EXPECT_EQ(back.optPVI, s.optPVI);
+        EXPECT_EQ(back.lblMorF, s.lblMorF);
+    }
+}
+
+}  // namespace
+}  // namespace gw
