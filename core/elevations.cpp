@@ -10,44 +10,47 @@
 namespace gw {
 namespace {
 
-// Adds a term to the elevation held as text, the way the field takes it: through
-// the plain text and the number format.
-std::string ThroughField(double value) { return FormatNumber(ReadNumber(PlainNumberText(value))); }
+// The elevation as its field takes it: through the plain 15-digit text, then the
+// number format. A 15-digit text reads back to a double whose 15 digits are the
+// same, so formatting the value directly gives the identical text.
+std::string ThroughField(double value) { return FormatNumber(value); }
 
 }  // namespace
 
 Outcome CalculateTOS(CurveSheet& sheet) {
     ElevationTable& t = sheet.elevations;
     t.bCalcOK = false;
+    // Nothing the run reads changes while it runs, so the curve and the offsets are
+    // read once.
     const double K = StationLength(sheet.lblMorF);
+    const double pvc = ReadNumber(t.txtPVCSTA) * K + ReadNumber(t.txtPVCSTAM);
+    const double pvt = ReadNumber(t.txtPVTSTA) * K + ReadNumber(t.txtPVTSTAM);
+    const double g1 = ReadNumber(sheet.txtG1) / 100;
+    const double g2 = ReadNumber(sheet.txtG2) / 100;
+    const double L = ReadNumber(sheet.txtLC);
+    const double E0 = ReadNumber(sheet.txtPVCEval);
+    const double a = (g2 - g1) / L / 2;
+    const bool withV = IsNumericText(t.txtVOffset);
+    const double V = ReadNumber(t.txtVOffset);
+    const bool withCross = IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope);
+    const double cross = (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset);
+
     for (int i = 0; i < kRowCount; ++i) {
         ElevationRow& row = t.rows[i];
         row.txtTotalTopSlab1.clear();
         const double T = ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1);
         if (T == 0) continue;
-        const double pvc = ReadNumber(t.txtPVCSTA) * K + ReadNumber(t.txtPVCSTAM);
-        const double pvt = ReadNumber(t.txtPVTSTA) * K + ReadNumber(t.txtPVTSTAM);
         if (pvc < pvt && (T < pvc || T > pvt)) {
             return Refusal{std::string(msg::kStationOffCurve), "txtTOTSTAM1", i};
         }
-        const double g1 = ReadNumber(sheet.txtG1) / 100;
-        const double g2 = ReadNumber(sheet.txtG2) / 100;
-        const double L = ReadNumber(sheet.txtLC);
-        const double E0 = ReadNumber(sheet.txtPVCEval);
-        const double a = (g2 - g1) / L / 2;
         const double x = T - pvc;
         const double E = E0 + g1 * x + a * (x * x);
         // A length of curve of zero (emptied after a Calc) has no parabola: the row
         // keeps an empty elevation instead of a number made up from a division by zero.
         if (!std::isfinite(E)) continue;
         row.txtTotalTopSlab1 = ThroughField(E);
-        if (IsNumericText(t.txtVOffset)) {
-            row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + ReadNumber(t.txtVOffset));
-        }
-        if (IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope)) {
-            const double cross = (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset);
-            row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + cross);
-        }
+        if (withV) row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + V);
+        if (withCross) row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + cross);
     }
     t.bCalcOK = true;
     return std::nullopt;

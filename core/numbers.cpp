@@ -2,10 +2,14 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdlib>
+#include <algorithm>
+#include <cstring>
 
 namespace gw {
 namespace {
+
+constexpr double kPow10[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+                              1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -72,6 +76,30 @@ bool LooksLikeOverflow(std::string_view n) {
     return magnitude + exponent > 0;
 }
 
+// Plain decimals of at most fifteen digits without exponent, the usual content of
+// a field: the digits as an integer and one division by an exact power of ten give
+// the correctly rounded value.
+bool FastConvert(std::string_view n, double& out) {
+    if (n.size() > 16) return false;
+    unsigned long long mantissa = 0;
+    int digits = 0;
+    int fraction = -1;
+    for (char c : n) {
+        if (c == '.') {
+            fraction = 0;
+        } else if (IsDigit(c)) {
+            mantissa = mantissa * 10 + static_cast<unsigned>(c - '0');
+            ++digits;
+            if (fraction >= 0) ++fraction;
+        } else {
+            return false;  // an exponent
+        }
+    }
+    if (digits > 15) return false;
+    out = fraction > 0 ? static_cast<double>(mantissa) / kPow10[fraction] : static_cast<double>(mantissa);
+    return true;
+}
+
 // Converts a scanned number; false when it does not fit a double.
 bool ConvertSpan(std::string_view text, NumberSpan span, double& out) {
     std::string_view n = text.substr(span.begin, span.end - span.begin);
@@ -81,6 +109,10 @@ bool ConvertSpan(std::string_view text, NumberSpan span, double& out) {
         n.remove_prefix(1);
     }
     double value = 0;
+    if (FastConvert(n, value)) {
+        out = negative ? -value : value;
+        return true;
+    }
     auto result = std::from_chars(n.data(), n.data() + n.size(), value, std::chars_format::general);
     if (result.ec == std::errc::result_out_of_range) {
         if (LooksLikeOverflow(n)) return false;
@@ -95,44 +127,109 @@ bool ConvertSpan(std::string_view text, NumberSpan span, double& out) {
 // The value's 15 significant digits and the power of ten of the first one.
 struct Digits15 {
     bool negative = false;
-    std::string digits;  // exactly 15 digits, first non-zero unless the value is 0
-    int exponent = 0;    // value = 0.d1d2... * 10^(exponent + 1)
+    char digits[15];  // first non-zero unless the value is 0
+    int exponent = 0;  // the first digit stands for 10^exponent
+
+    // The digit that stands for 10^power, 0 outside the fifteen.
+    char At(int power) const {
+        const int i = exponent - power;
+        return i >= 0 && i < 15 ? digits[i] : '0';
+    }
 };
 
-Digits15 SplitDigits(double value) {
-    Digits15 d;
-    d.negative = std::signbit(value);
-    char buf[64];
-    auto r = std::to_chars(buf, buf + sizeof buf, std::fabs(value), std::chars_format::scientific, 14);
-    std::string_view s(buf, static_cast<size_t>(r.ptr - buf));
-    size_t e = s.find('e');
-    for (size_t i = 0; i < e; ++i) {
-        if (s[i] != '.') d.digits.push_back(s[i]);
+// Digits and exponent of a scientific text "d.ddde+XX" from to_chars.
+int ParseScientific(const char* p, const char* end, char* digits) {
+    int n = 0;
+    for (; p < end && *p != 'e'; ++p) {
+        if (*p != '.') digits[n++] = *p;
     }
-    d.exponent = std::atoi(std::string(s.substr(e + 1)).c_str());
+    return n;
+}
+
+int ParseExponent(const char* end, const char* e) {
+    const bool negative = e[1] == '-';
+    int exponent = 0;
+    for (const char* p = e + 2; p < end; ++p) exponent = exponent * 10 + (*p - '0');
+    return negative ? -exponent : exponent;
+}
+
+Digits15 PreciseDigits(double magnitude, bool negative) {
+    Digits15 d;
+    d.negative = negative;
+    char buf[40];
+    auto r = std::to_chars(buf, buf + sizeof buf, magnitude, std::chars_format::scientific, 14);
+    ParseScientific(buf, r.ptr, d.digits);
+    d.exponent = ParseExponent(r.ptr, std::find(buf, r.ptr, 'e'));
     return d;
 }
 
-// Integer and fraction digits of the 15-digit value, written out in full.
-void PlainParts(const Digits15& d, std::string& integerPart, std::string& fraction) {
-    integerPart.clear();
-    fraction.clear();
-    if (d.exponent >= 0) {
-        size_t intLen = static_cast<size_t>(d.exponent) + 1;
-        if (intLen >= d.digits.size()) {
-            integerPart = d.digits + std::string(intLen - d.digits.size(), '0');
-        } else {
-            integerPart = d.digits.substr(0, intLen);
-            fraction = d.digits.substr(intLen);
-        }
+// The 15-digit rounding of the value. The shortest text that reads back to the
+// value is cheap to get and, padded or rounded, gives the same fifteen digits; the
+// one case it cannot decide (sixteen digits ending in 5, a tie in the shortest
+// text but not in the value) takes the exact conversion.
+// Values from 1e-8 up to 1e15, which is every number a curve produces: the value
+// times a power of ten, rounded to an integer of fifteen digits, with the product's
+// exact remainder from fma deciding the rare case where the rounded product sits
+// on a half. Rounds exact halves to even, as the C library does.
+bool FastDigits(double magnitude, bool negative, Digits15& d) {
+    if (!(magnitude >= 1e-8 && magnitude < 1e15)) return false;
+    int e = 0;
+    if (magnitude >= 1) {
+        while (e < 15 && magnitude >= kPow10[e + 1]) ++e;
     } else {
-        integerPart = "0";
-        fraction = std::string(static_cast<size_t>(-d.exponent - 1), '0') + d.digits;
+        e = -1;
+        while (magnitude * kPow10[-e] < 1) --e;  // exact enough: only picks the scale
     }
-    while (!fraction.empty() && fraction.back() == '0') fraction.pop_back();
+    const int k = 14 - e;
+    if (k < 0 || k > 22) return false;
+    const double scale = kPow10[k];
+    const double p = magnitude * scale;
+    if (!(p >= 1e14 && p < 1e15)) return false;  // the scale was off by one
+    const double err = std::fma(magnitude, scale, -p);
+    double whole = std::floor(p);
+    const double frac = p - whole;
+    if (frac > 0.5 || (frac == 0.5 && (err > 0 || (err == 0 && std::fmod(whole, 2) != 0)))) whole += 1;
+    auto n = static_cast<unsigned long long>(whole);
+    if (n == 1000000000000000ULL) {  // rounding carried into a sixteenth digit
+        n /= 10;
+        ++e;
+    }
+    d.negative = negative;
+    d.exponent = e;
+    for (int i = 14; i >= 0; --i) {
+        d.digits[i] = static_cast<char>('0' + n % 10);
+        n /= 10;
+    }
+    return true;
 }
 
-bool AllZero(const std::string& s) { return s.find_first_not_of('0') == std::string::npos; }
+Digits15 SplitDigits(double value) {
+    const double magnitude = std::fabs(value);
+    const bool negative = std::signbit(value);
+    Digits15 fast;
+    if (FastDigits(magnitude, negative, fast)) return fast;
+    char buf[40];
+    auto r = std::to_chars(buf, buf + sizeof buf, magnitude, std::chars_format::scientific);
+    char digits[20];
+    const int n = ParseScientific(buf, r.ptr, digits);
+    if (n == 16 && digits[15] == '5') return PreciseDigits(magnitude, negative);
+
+    Digits15 d;
+    d.negative = negative;
+    d.exponent = ParseExponent(r.ptr, std::find(buf, r.ptr, 'e'));
+    for (int i = 0; i < 15; ++i) d.digits[i] = i < n ? digits[i] : '0';
+    if (n > 15 && digits[15] >= '5') {
+        int i = 14;
+        while (i >= 0 && d.digits[i] == '9') d.digits[i--] = '0';
+        if (i >= 0) {
+            ++d.digits[i];
+        } else {
+            d.digits[0] = '1';
+            ++d.exponent;
+        }
+    }
+    return d;
+}
 
 }  // namespace
 
@@ -159,12 +256,17 @@ bool IsNumericText(std::string_view text) {
 std::string PlainNumberText(double value) {
     if (!std::isfinite(value)) return {};
     if (value == 0) return "0";
-    Digits15 d = SplitDigits(value);
-    std::string integerPart, fraction;
-    PlainParts(d, integerPart, fraction);
-    std::string out = d.negative ? "-" : "";
-    out += integerPart;
-    if (!fraction.empty()) out += "." + fraction;
+    const Digits15 d = SplitDigits(value);
+    int lowest = d.exponent - 14;  // power of the last significant digit
+    while (lowest < 0 && d.At(lowest) == '0') ++lowest;
+    std::string out;
+    out.reserve(24);
+    if (d.negative) out += '-';
+    for (int q = std::max(d.exponent, 0); q >= 0; --q) out += d.At(q);
+    if (lowest < 0) {
+        out += '.';
+        for (int q = -1; q >= lowest; --q) out += d.At(q);
+    }
     return out;
 }
 
@@ -173,30 +275,31 @@ double ThroughText(double value) { return ReadNumber(PlainNumberText(value)); }
 std::string FormatNumber(double value) {
     if (!std::isfinite(value)) return {};
     if (value == 0) return "0.0";
-    Digits15 d = SplitDigits(value);
-    std::string integerPart, fraction;
-    PlainParts(d, integerPart, fraction);
-    bool roundUp = fraction.size() > 4 && fraction[4] >= '5';
-    fraction.resize(4, '0');
-    std::string all = integerPart + fraction;
-    if (roundUp) {
-        size_t i = all.size();
-        while (i > 0) {
-            --i;
-            if (all[i] == '9') {
-                all[i] = '0';
-            } else {
-                ++all[i];
-                break;
-            }
-            if (i == 0) all.insert(all.begin(), '1');
-        }
+    const Digits15 d = SplitDigits(value);
+    // Digits from the highest integer place down to the fourth decimal, then
+    // rounded half away from zero on the fifth decimal of the 15-digit value.
+    char buf[400];
+    int n = 0;
+    buf[n++] = '0';  // room for a carry out of the top digit
+    for (int q = std::max(d.exponent, 0); q >= -4; --q) buf[n++] = d.At(q);
+    if (d.At(-5) >= '5') {
+        int i = n - 1;
+        while (buf[i] == '9') buf[i--] = '0';
+        ++buf[i];
     }
-    integerPart = all.substr(0, all.size() - 4);
-    fraction = all.substr(all.size() - 4);
-    bool zero = AllZero(integerPart) && AllZero(fraction);
-    while (fraction.size() > 1 && fraction.back() == '0') fraction.pop_back();
-    return (d.negative && !zero ? "-" : "") + integerPart + "." + fraction;
+    int begin = buf[0] == '0' ? 1 : 0;
+    const int pointAt = n - 4;
+    int end = n;
+    while (end > pointAt + 1 && buf[end - 1] == '0') --end;
+    bool zero = true;
+    for (int i = begin; i < end; ++i) zero = zero && buf[i] == '0';
+    std::string out;
+    out.reserve(static_cast<size_t>(end - begin + 2));
+    if (d.negative && !zero) out += '-';
+    out.append(buf + begin, buf + pointAt);
+    out += '.';
+    out.append(buf + pointAt, buf + end);
+    return out;
 }
 
 std::string FormatWholeNumber(double wholeValue) {

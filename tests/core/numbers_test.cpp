@@ -4,7 +4,10 @@
 
 #include <clocale>
 #include <cmath>
+#include <cstdio>
+#include <cstdlib>
 #include <limits>
+#include <random>
 
 namespace gw {
 namespace {
@@ -98,6 +101,57 @@ TEST(FormattedNumbersTest, ReadBackToTheValueTheyShow) {
         const std::string text = FormatNumber(v);
         EXPECT_TRUE(IsNumericText(text)) << text;
         EXPECT_NEAR(ReadNumber(text), v, 0.0000501) << text;
+    }
+}
+
+}  // namespace
+}  // namespace gw
+
+namespace gw {
+namespace {
+
+// The fast 15-digit rounding must agree with the C library's exact one everywhere,
+// including values whose shortest text has sixteen digits ending in 5.
+TEST(PlainNumberTextTest, AgreesWithExactFifteenDigitRounding) {
+    std::mt19937_64 rng(7);
+    std::uniform_real_distribution<double> mantissa(1.0, 10.0);
+    std::uniform_int_distribution<int> exponent(-12, 15);
+    auto check = [](double v) {
+        char exact[64];
+        std::snprintf(exact, sizeof exact, "%.14e", v);
+        ASSERT_EQ(ReadNumber(PlainNumberText(v)), std::strtod(exact, nullptr)) << exact;
+    };
+    for (int i = 0; i < 200000; ++i) {
+        const double v = mantissa(rng) * std::pow(10.0, exponent(rng));
+        check(v);
+        check(-v);
+    }
+    for (double v : {0.1 + 0.2, 1.0000000000000005, 2.0000000000000049, 9.9999999999999995, 123456.78915,
+                     1e15 - 0.5, 999999999999999.5}) {
+        check(v);
+    }
+}
+
+}  // namespace
+}  // namespace gw
+
+namespace gw {
+namespace {
+
+// Short plain decimals take a fast path; it must read exactly what strtod reads.
+TEST(ReadNumberTest, AgreesWithTheCLibraryOnPlainDecimals) {
+    std::mt19937 rng(11);
+    for (int i = 0; i < 200000; ++i) {
+        std::string text;
+        if (rng() % 4 == 0) text += '-';
+        const int digits = 1 + static_cast<int>(rng() % 17);
+        const int point = static_cast<int>(rng() % (digits + 1));
+        for (int k = 0; k < digits; ++k) {
+            if (k == point && k > 0) text += '.';
+            text += static_cast<char>('0' + rng() % 10);
+        }
+        ASSERT_EQ(ReadNumber(text), std::strtod(text.c_str(), nullptr)) << text;
+        ASSERT_TRUE(IsNumericText(text)) << text;
     }
 }
 
