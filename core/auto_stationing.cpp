@@ -55,9 +55,13 @@ std::string* AutoStationing::Field(std::string_view name) {
     return nullptr;
 }
 
+const std::string* AutoStationing::Field(std::string_view name) const {
+    return const_cast<AutoStationing*>(this)->Field(name);
+}
+
 std::vector<std::string_view> AutoStationing::CheckOnLeave(std::string_view field) const {
     std::vector<std::string_view> out;
-    const std::string* text = const_cast<AutoStationing*>(this)->Field(field);
+    const std::string* text = Field(field);
     if (!text || text->empty()) return out;
     const bool numeric = IsNumericText(*text);
     const double value = ReadNumber(*text);

@@ -39,6 +39,7 @@ struct AutoStationing {
     void Cancel();
 
     std::string* Field(std::string_view name);
+    const std::string* Field(std::string_view name) const;
 };
 
 // A dialog reset for this curve, as every showing is.

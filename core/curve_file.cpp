@@ -45,7 +45,9 @@ const std::vector<Slot>& Layout() {
     return slots;
 }
 
-std::string* TextOf(CurveSheet& sheet, const Slot& slot) {
+// The text a slot stands for; works on a const sheet for the writer too.
+template <class Sheet>
+auto TextOf(Sheet& sheet, const Slot& slot) -> decltype(&sheet.lblSDL) {
     switch (slot.kind) {
         case Kind::Text: return &(sheet.*slot.text);
         case Kind::RowWhole: return &sheet.elevations.rows[slot.row].txtTOTSTA1;
@@ -112,7 +114,7 @@ private:
 }  // namespace
 
 std::string CurveFileBytes(const CurveSheet& sheet) {
-    CurveSheet& s = const_cast<CurveSheet&>(sheet);  // read only; TextOf is shared with the reader
+    const CurveSheet& s = sheet;
     const auto& layout = Layout();
     std::string out;
     size_t index = 0;

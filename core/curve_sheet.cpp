@@ -30,8 +30,9 @@ const std::array<NamedMember<ElevationTable>, 7> kTableMembers = {{
     {"txtXSlope", &ElevationTable::txtXSlope},
 }};
 
-template <class Owner, size_t N>
-std::string* Find(const std::array<NamedMember<Owner>, N>& table, Owner& owner, std::string_view name) {
+template <class Owner, size_t N, class Target>
+auto Find(const std::array<NamedMember<Owner>, N>& table, Target& owner, std::string_view name)
+    -> decltype(&(owner.*table[0].member)) {
     for (const auto& m : table) {
         if (m.name == name) return &(owner.*m.member);
     }
@@ -53,7 +54,7 @@ void ElevationTable::ClearRowsAndOffsets() {
 
 std::string* ElevationTable::Field(std::string_view name) { return Find(kTableMembers, *this, name); }
 const std::string* ElevationTable::Field(std::string_view name) const {
-    return Find(kTableMembers, const_cast<ElevationTable&>(*this), name);
+    return Find(kTableMembers, *this, name);
 }
 
 const std::array<std::string_view, 16>& CurveSheet::CurveFieldNames() {
@@ -66,7 +67,7 @@ const std::array<std::string_view, 16>& CurveSheet::CurveFieldNames() {
 
 std::string* CurveSheet::Field(std::string_view name) { return Find(kCurveMembers, *this, name); }
 const std::string* CurveSheet::Field(std::string_view name) const {
-    return Find(kCurveMembers, const_cast<CurveSheet&>(*this), name);
+    return Find(kCurveMembers, *this, name);
 }
 
 bool CurveSheet::IsMetric() const { return gw::IsMetric(lblMorF); }
