@@ -1,0 +1,131 @@
+#include <QLabel>
+
+#include "elevations_fixture.h"
+
+namespace gw::test {
+namespace {
+
+using ElevationsWindowTest = ElevationsFixture;
+
+TEST_F(ElevationsWindowTest, FirstShowingCopiesTheEndsWithEmptyRowsAndFeet) {
+    Show();
+    EXPECT_EQ(window.Field("txtPVCSTA")->text(), "10");
+    EXPECT_EQ(window.Field("txtPVCSTAM")->text(), "0.0");
+    EXPECT_EQ(window.Field("txtPVTSTA")->text(), "14");
+    for (int i = 0; i < kRowCount; ++i) EXPECT_EQ(Row("txtTOTSTA1", i)->text(), "");
+    EXPECT_EQ(window.findChild<QLabel*>("lblvoffsetm")->text(), "(ft)");
+    EXPECT_EQ(window.findChild<QLabel*>("lblhoffsetm")->text(), "(ft)");
+    EXPECT_EQ(QApplication::focusWidget(), Row("txtTOTSTA1", 0));
+    EXPECT_TRUE(window.Field("txtPVCSTA")->isReadOnly());
+    EXPECT_TRUE(Row("txtTotalTopSlab1", 3)->isReadOnly());
+    EXPECT_FALSE(slot.changed);
+}
+
+TEST_F(ElevationsWindowTest, MetricCurvesShowMetres) {
+    slot.curve.lblMorF = "Metric";
+    Show();
+    EXPECT_EQ(window.findChild<QLabel*>("lblvoffsetm")->text(), "(m)");
+}
+
+TEST_F(ElevationsWindowTest, TypedStationIsComputedByOkAndKeptAcrossShowings) {
+    Show();
+    TypeStation(0, "11", "0");
+    EXPECT_TRUE(slot.changed);  // typing marks the curve changed
+    Click("cmdOK");
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(slot.table.rows[0].txtTotalTopSlab1, "101.5");
+    Show();
+    EXPECT_EQ(Row("txtTOTSTA1", 0)->text(), "11");
+    EXPECT_EQ(Elevation(0), "101.5");
+}
+
+TEST_F(ElevationsWindowTest, AStationBeforeThePvcStopsTheRunAndKeepsTheWindow) {
+    slot.table.txtPVCSTA = "10";  // shown before: the copies match, nothing recomputes on showing
+    slot.table.txtPVCSTAM = "0.0";
+    slot.table.txtPVTSTA = "14";
+    slot.table.txtPVTSTAM = "0.0";
+    for (int i = 0; i < 10; ++i) slot.table.rows[i] = {"11", "0", "old"};
+    slot.table.rows[5] = {"9", "50", "old"};
+    Show();
+    platform.AnswerMessage(MessageButton::Ok);
+    Click("cmdOK");
+    EXPECT_EQ(Messages(), QStringList{"Top of Slab Station must be between PVC and PVT stations."});
+    EXPECT_TRUE(window.isVisible());
+    EXPECT_FALSE(window.CalcOK());
+    for (int i = 0; i < 5; ++i) EXPECT_EQ(Elevation(i), "101.5");
+    EXPECT_EQ(Elevation(5), "");
+    for (int i = 6; i < 10; ++i) EXPECT_EQ(Elevation(i), "old");
+    EXPECT_EQ(QApplication::focusWidget(), Row("txtTOTSTAM1", 5));
+}
+
+TEST_F(ElevationsWindowTest, LeavingAWholeStationOfLettersGivesTwoMessages) {
+    Show();
+    platform.AnswerMessage(MessageButton::Ok);
+    platform.AnswerMessage(MessageButton::Ok);
+    QTest::keyClicks(Row("txtTOTSTA1", 0), "x");
+    QTest::keyClick(Row("txtTOTSTA1", 0), Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(Messages(), (QStringList{"Must be numeric.", "Must be >= to PVCSTA."}));
+    EXPECT_EQ(QApplication::focusWidget(), Row("txtTOTSTA1", 0));
+    EXPECT_EQ(Row("txtTOTSTA1", 0)->text(), "x");
+}
+
+TEST_F(ElevationsWindowTest, PlusPartLimitOnLeaving) {
+    Show();
+    platform.AnswerMessage(MessageButton::Ok);
+    TypeStation(0, "11", "100");
+    QTest::keyClick(Row("txtTOTSTAM1", 0), Qt::Key_Tab);
+    QApplication::processEvents();
+    EXPECT_EQ(Messages(), QStringList{"Measurement must be less than 100 feet."});
+    EXPECT_EQ(QApplication::focusWidget(), Row("txtTOTSTAM1", 0));
+}
+
+TEST_F(ElevationsWindowTest, ClearAllEmptiesRowsAndOffsetsButKeepsTheEnds) {
+    slot.table.rows[3] = {"11", "0", "101.5"};
+    slot.table.txtVOffset = "0.5";
+    Show();
+    slot.changed = false;
+    Click("cmdClear");
+    EXPECT_TRUE(slot.changed);
+    EXPECT_EQ(Row("txtTOTSTA1", 3)->text(), "");
+    EXPECT_EQ(window.Field("txtVOffset")->text(), "");
+    EXPECT_EQ(window.Field("txtPVTSTA")->text(), "14");
+    EXPECT_EQ(slot.table.rows[3].txtTOTSTA1, "");
+}
+
+TEST_F(ElevationsWindowTest, EscapeDoesNotCloseButTheCloseBoxUnloads) {
+    slot.table.rows[0] = {"11", "0", ""};
+    Show();
+    QTest::keyClick(Row("txtTOTSTA1", 0), Qt::Key_Escape);
+    EXPECT_TRUE(window.isVisible());
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(slot.table.rows[0].txtTOTSTA1, "");
+    EXPECT_EQ(slot.table.txtPVCSTA, "");
+    Show();  // the next showing starts empty and recomputes from the curve
+    EXPECT_EQ(Row("txtTOTSTA1", 0)->text(), "");
+    EXPECT_EQ(window.Field("txtPVCSTA")->text(), "10");
+}
+
+TEST_F(ElevationsWindowTest, MovedEndsRecomputeOnShowing) {
+    slot.table.rows[0] = {"11", "0", "stale"};
+    Show();
+    EXPECT_EQ(Elevation(0), "101.5");
+    window.hide();
+    slot.table.rows[0].txtTotalTopSlab1 = "kept";
+    Show();  // same ends: nothing recomputed
+    EXPECT_EQ(Elevation(0), "kept");
+}
+
+TEST_F(ElevationsWindowTest, TabOrderRunsFromOkThroughTheRowsToTheOffsets) {
+    Show();
+    QWidget* ok = window.findChild<QPushButton*>("cmdOK");
+    EXPECT_EQ(ok->nextInFocusChain(), Row("txtTOTSTA1", 0));
+    EXPECT_EQ(Row("txtTOTSTA1", 0)->nextInFocusChain(), Row("txtTOTSTAM1", 0));
+    EXPECT_EQ(Row("txtTOTSTAM1", 19)->nextInFocusChain(), window.findChild<QPushButton*>("cmdCalculateTOS"));
+    EXPECT_EQ(window.findChild<QPushButton*>("cmdAutoStation")->nextInFocusChain(), window.Field("txtVOffset"));
+    EXPECT_EQ(Row("txtTotalTopSlab1", 0)->focusPolicy(), Qt::ClickFocus);
+}
+
+}  // namespace
+}  // namespace gw::test
