@@ -1,0 +1,14 @@
+#include "platform.h"
+
+#include "core/messages.h"
+
+namespace gw {
+
+void ShowRefusal(Platform& platform, QWidget* owner, const QString& text) {
+    MessageRequest request;
+    request.title = QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size()));
+    request.text = text;
+    platform.ShowMessage(owner, request);
+}
+
+}  // namespace gw

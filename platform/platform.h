@@ -1,0 +1,77 @@
+#pragma once
+// The one seam between the program and the desktop: every message box, modal dialog,
+// file and print dialog, the printer, the busy cursor, the clock and the shell's
+// open-address request go through here, so tests can answer them without a person.
+// (The settings store is a class of its own.)
+
+#include <QDateTime>
+#include <QLocale>
+#include <QString>
+#include <memory>
+#include <optional>
+
+class QDialog;
+class QWidget;
+
+namespace gw {
+
+enum class MessageButton { Ok, Yes, No, Cancel };
+enum class MessageButtons { Ok, YesNoCancel };
+enum class MessageIcon { None, Information, Exclamation, Critical };
+
+struct MessageRequest {
+    QString title;
+    QString text;
+    MessageButtons buttons = MessageButtons::Ok;
+    MessageIcon icon = MessageIcon::None;
+    MessageButton defaultButton = MessageButton::Ok;
+};
+
+struct FileDialogRequest {
+    QString title;
+    QString folder;
+    QString fileName;  // proposed name
+    QString filter;    // "Curve files (*.gwf)"
+};
+
+// One print job, line by line, in the order the report is laid out.
+class LinePrinter {
+public:
+    virtual ~LinePrinter() = default;
+    virtual void SetFont(const QString& family, double pointSize) = 0;
+    virtual void PrintLine(const QString& text) = 0;
+    virtual void NewPage() = 0;
+    // Ends the job; false when the printer reported a failure.
+    virtual bool EndDoc() = 0;
+};
+
+class Platform {
+public:
+    virtual ~Platform() = default;
+
+    virtual MessageButton ShowMessage(QWidget* owner, const MessageRequest& request) = 0;
+
+    // Shows one of our own dialogs modally and returns once it has hidden itself;
+    // the caller reads the dialog's answer from the dialog afterwards.
+    virtual void ShowModal(QDialog& dialog) = 0;
+
+    // The chosen path, or nothing when the user cancelled.
+    virtual std::optional<QString> GetOpenFileName(QWidget* owner, const FileDialogRequest& request) = 0;
+    virtual std::optional<QString> GetSaveFileName(QWidget* owner, const FileDialogRequest& request) = 0;
+
+    // The number of copies the user asked for, or nothing when cancelled.
+    virtual std::optional<int> ShowPrintDialog(QWidget* owner, int copies) = 0;
+    // A job on the printer last chosen in the print dialog (or the default one).
+    virtual std::unique_ptr<LinePrinter> StartPrintJob(const QString& documentName) = 0;
+
+    virtual void SetBusyCursor(bool busy) = 0;
+    virtual QDateTime Now() const = 0;
+    virtual QLocale Locale() const = 0;
+    virtual void OpenUrl(const QString& url) = 0;
+};
+
+// A message with one OK button under the application title: how every field and
+// command refusal is reported.
+void ShowRefusal(Platform& platform, QWidget* owner, const QString& text);
+
+}  // namespace gw

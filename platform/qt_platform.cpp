@@ -1,0 +1,150 @@
+#include "qt_platform.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QUrl>
+
+namespace gw {
+namespace {
+
+QMessageBox::StandardButton ToQt(MessageButton button) {
+    switch (button) {
+        case MessageButton::Ok: return QMessageBox::Ok;
+        case MessageButton::Yes: return QMessageBox::Yes;
+        case MessageButton::No: return QMessageBox::No;
+        case MessageButton::Cancel: return QMessageBox::Cancel;
+    }
+    return QMessageBox::Ok;
+}
+
+QMessageBox::Icon ToQt(MessageIcon icon) {
+    switch (icon) {
+        case MessageIcon::None: return QMessageBox::NoIcon;
+        case MessageIcon::Information: return QMessageBox::Information;
+        case MessageIcon::Exclamation: return QMessageBox::Warning;
+        case MessageIcon::Critical: return QMessageBox::Critical;
+    }
+    return QMessageBox::NoIcon;
+}
+
+class QtLinePrinter final : public LinePrinter {
+public:
+    QtLinePrinter(QPrinter& printer, const QString& documentName) : m_printer(printer) {
+        m_printer.setDocName(documentName);
+        m_ok = m_painter.begin(&m_printer);
+    }
+    ~QtLinePrinter() override {
+        if (m_painter.isActive()) m_painter.end();
+    }
+
+    void SetFont(const QString& family, double pointSize) override {
+        if (!m_ok) return;
+        QFont font(family);
+        font.setPointSizeF(pointSize);
+        m_painter.setFont(font);
+    }
+    void PrintLine(const QString& text) override {
+        if (!m_ok) return;
+        const QFontMetrics metrics(m_painter.font(), &m_printer);
+        m_y += metrics.ascent();
+        m_painter.drawText(0, m_y, text);
+        m_y += metrics.descent() + metrics.leading();
+    }
+    void NewPage() override {
+        if (!m_ok) return;
+        m_ok = m_printer.newPage();
+        m_y = 0;
+    }
+    bool EndDoc() override {
+        if (m_painter.isActive()) m_ok = m_painter.end() && m_ok;
+        return m_ok;
+    }
+
+private:
+    QPrinter& m_printer;
+    QPainter m_painter;
+    int m_y = 0;
+    bool m_ok = false;
+};
+
+std::optional<QString> Chosen(const QString& path) {
+    if (path.isEmpty()) return std::nullopt;
+    return path;
+}
+
+}  // namespace
+
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
+MessageButton QtPlatform::ShowMessage(QWidget* owner, const MessageRequest& request) {
+    QMessageBox box(ToQt(request.icon), request.title, request.text, QMessageBox::NoButton, owner);
+    if (request.buttons == MessageButtons::Ok) {
+        box.setStandardButtons(QMessageBox::Ok);
+    } else {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+    }
+    box.setDefaultButton(ToQt(request.defaultButton));
+    switch (box.exec()) {
+        case QMessageBox::Yes: return MessageButton::Yes;
+        case QMessageBox::No: return MessageButton::No;
+        case QMessageBox::Cancel: return MessageButton::Cancel;
+        default: return request.buttons == MessageButtons::Ok ? MessageButton::Ok : MessageButton::Cancel;
+    }
+}
+
+void QtPlatform::ShowModal(QDialog& dialog) { dialog.exec(); }
+
+std::optional<QString> QtPlatform::GetOpenFileName(QWidget* owner, const FileDialogRequest& request) {
+    return Chosen(QFileDialog::getOpenFileName(owner, request.title, QDir(request.folder).filePath(request.fileName),
+                                               request.filter));
+}
+
+std::optional<QString> QtPlatform::GetSaveFileName(QWidget* owner, const FileDialogRequest& request) {
+    return Chosen(QFileDialog::getSaveFileName(owner, request.title, QDir(request.folder).filePath(request.fileName),
+                                               request.filter));
+}
+
+QPrinter& QtPlatform::Printer() {
+    if (!m_printer) m_printer = std::make_unique<QPrinter>();
+    return *m_printer;
+}
+
+std::optional<int> QtPlatform::ShowPrintDialog(QWidget* owner, int copies) {
+    QPrinter& printer = Printer();
+    printer.setCopyCount(copies);
+    QPrintDialog dialog(&printer, owner);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    // The report prints each copy itself, so the printer must not repeat it.
+    const int chosen = printer.copyCount();
+    printer.setCopyCount(1);
+    return chosen;
+}
+
+std::unique_ptr<LinePrinter> QtPlatform::StartPrintJob(const QString& documentName) {
+    return std::make_unique<QtLinePrinter>(Printer(), documentName);
+}
+
+void QtPlatform::SetBusyCursor(bool busy) {
+    if (busy == m_busy) return;
+    m_busy = busy;
+    if (busy) {
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+QDateTime QtPlatform::Now() const { return QDateTime::currentDateTime(); }
+
+QLocale QtPlatform::Locale() const { return QLocale::system(); }
+
+void QtPlatform::OpenUrl(const QString& url) { QDesktopServices::openUrl(QUrl(url)); }
+
+}  // namespace gw

@@ -1,0 +1,113 @@
+#include "scripted_platform.h"
+
+#include <QDialog>
+
+namespace gw {
+namespace {
+
+class RecordingPrinter final : public LinePrinter {
+public:
+    explicit RecordingPrinter(std::vector<ScriptedPlatform::PrintedLine>& out) : m_out(out) {}
+    void SetFont(const QString&, double) override {}
+    void PrintLine(const QString& text) override { m_out.push_back({m_page, text}); }
+    void NewPage() override { ++m_page; }
+    bool EndDoc() override { return true; }
+
+private:
+    std::vector<ScriptedPlatform::PrintedLine>& m_out;
+    int m_page = 1;
+};
+
+template <class T>
+std::optional<T> PopFront(std::deque<T>& queue) {
+    if (queue.empty()) return std::nullopt;
+    T value = std::move(queue.front());
+    queue.pop_front();
+    return value;
+}
+
+}  // namespace
+
+void ScriptedPlatform::Unexpected(const QString& what) {
+    if (m_unexpected) m_unexpected(what);
+}
+
+QStringList ScriptedPlatform::MessageTexts() const {
+    QStringList texts;
+    for (const MessageRequest& m : m_messages) texts << m.text;
+    return texts;
+}
+
+QStringList ScriptedPlatform::Unused() const {
+    QStringList unused;
+    if (!m_messageAnswers.empty()) unused << QStringLiteral("%1 message answer(s)").arg(m_messageAnswers.size());
+    if (!m_dialogScripts.empty()) unused << QStringLiteral("%1 dialog script(s)").arg(m_dialogScripts.size());
+    if (!m_openAnswers.empty()) unused << QStringLiteral("%1 open-file answer(s)").arg(m_openAnswers.size());
+    if (!m_saveAnswers.empty()) unused << QStringLiteral("%1 save-file answer(s)").arg(m_saveAnswers.size());
+    if (!m_printAnswers.empty()) unused << QStringLiteral("%1 print answer(s)").arg(m_printAnswers.size());
+    return unused;
+}
+
+void ScriptedPlatform::ClearRecords() {
+    m_messages.clear();
+    m_shownDialogs.clear();
+    m_openRequests.clear();
+    m_saveRequests.clear();
+    m_printed.clear();
+    m_openedUrls.clear();
+}
+
+MessageButton ScriptedPlatform::ShowMessage(QWidget*, const MessageRequest& request) {
+    m_messages.push_back(request);
+    if (auto answer = PopFront(m_messageAnswers)) return *answer;
+    Unexpected(QStringLiteral("unexpected message box: \"%1\"").arg(request.text));
+    return request.buttons == MessageButtons::Ok ? MessageButton::Ok : MessageButton::Cancel;
+}
+
+void ScriptedPlatform::ShowModal(QDialog& dialog) {
+    m_shownDialogs << dialog.objectName();
+    // Shown modelessly so the script's key clicks and focus changes reach real widgets;
+    // the script answers it and we return, with no event loop of our own.
+    dialog.show();
+    dialog.activateWindow();
+    auto script = PopFront(m_dialogScripts);
+    if (script) {
+        (*script)(dialog);
+    } else {
+        Unexpected(QStringLiteral("unexpected dialog: %1").arg(dialog.objectName()));
+    }
+    if (dialog.isVisible()) {
+        if (script) Unexpected(QStringLiteral("dialog left open by its script: %1").arg(dialog.objectName()));
+        dialog.reject();
+    }
+}
+
+std::optional<QString> ScriptedPlatform::GetOpenFileName(QWidget*, const FileDialogRequest& request) {
+    m_openRequests.push_back(request);
+    if (auto answer = PopFront(m_openAnswers)) return *answer;
+    Unexpected(QStringLiteral("unexpected open-file dialog: %1").arg(request.title));
+    return std::nullopt;
+}
+
+std::optional<QString> ScriptedPlatform::GetSaveFileName(QWidget*, const FileDialogRequest& request) {
+    m_saveRequests.push_back(request);
+    if (auto answer = PopFront(m_saveAnswers)) return *answer;
+    Unexpected(QStringLiteral("unexpected save-file dialog: %1").arg(request.title));
+    return std::nullopt;
+}
+
+std::optional<int> ScriptedPlatform::ShowPrintDialog(QWidget*, int) {
+    if (auto answer = PopFront(m_printAnswers)) return *answer;
+    Unexpected(QStringLiteral("unexpected print dialog"));
+    return std::nullopt;
+}
+
+std::unique_ptr<LinePrinter> ScriptedPlatform::StartPrintJob(const QString&) {
+    return std::make_unique<RecordingPrinter>(m_printed);
+}
+
+QDateTime ScriptedPlatform::Now() const {
+    return m_now.isValid() ? m_now : QDateTime(QDate(2024, 3, 15), QTime(14, 30, 5));
+}
+
+}  // namespace gw

@@ -1,0 +1,107 @@
+#include "main_window.h"
+
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QDir>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "core/messages.h"
+#include "platform/platform.h"
+#include "status_bar.h"
+#include "ui/curve/curve_window.h"
+#include "window_arrangement.h"
+#include "window_list.h"
+
+namespace gw {
+namespace {
+
+const char* const kHomePage = "https://gradewise.org/";
+
+}  // namespace
+
+frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_platform(platform) {
+    setObjectName(QStringLiteral("frmMain"));
+    setWindowTitle(QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size())));
+    m_mdi = new QMdiArea(this);
+    m_mdi->setObjectName(QStringLiteral("mdiArea"));
+    m_mdi->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    m_mdi->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(m_mdi);
+    m_menus = BuildMainMenus(*menuBar());
+    m_status = new MainStatusBar(m_platform, this);
+    setStatusBar(m_status);
+    ConnectMenus();
+    resize(1000, 700);
+}
+
+frmMain::~frmMain() = default;
+
+void frmMain::ConnectMenus() {
+    connect(m_menus.mnuVerticalCrest, &QAction::triggered, this, &frmMain::mnuVerticalCrest_Click);
+    connect(m_menus.mnuFileExit, &QAction::triggered, this, &frmMain::mnuFileExit_Click);
+    connect(m_menus.mnuCloseAll, &QAction::triggered, this, &frmMain::mnuCloseAll_Click);
+    connect(m_menus.mnuWindowCascade, &QAction::triggered, this, &frmMain::mnuWindowCascade_Click);
+    connect(m_menus.mnuWindowTileHorizontal, &QAction::triggered, this, &frmMain::mnuWindowTileHorizontal_Click);
+    connect(m_menus.mnuWindowTileVertical, &QAction::triggered, this, &frmMain::mnuWindowTileVertical_Click);
+    connect(m_menus.mnuWindowArrangeIcons, &QAction::triggered, this, &frmMain::mnuWindowArrangeIcons_Click);
+    connect(m_menus.mnuGradewise_web, &QAction::triggered, this, &frmMain::mnuGradewise_web_Click);
+    connect(m_menus.mnuWindow, &QMenu::aboutToShow, this, [this] { RefreshWindowList(*m_menus.mnuWindow, *m_mdi); });
+}
+
+void frmMain::MDIForm_Load() {
+    show();
+    QDir::setCurrent(QCoreApplication::applicationDirPath());
+}
+
+frmCrestCurve* frmMain::ActiveCurveWindow() const {
+    QMdiSubWindow* sub = m_mdi->currentSubWindow();
+    return sub ? qobject_cast<frmCrestCurve*>(sub->widget()) : nullptr;
+}
+
+void frmMain::mnuFileExit_Click() {
+    // A curve whose close was cancelled keeps the program running, exactly as closing
+    // the frame by its close box does: the user chose not to lose it.
+    close();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+    m_mdi->closeAllSubWindows();
+    if (!m_mdi->subWindowList().isEmpty()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    MDIForm_Unload();
+}
+
+void frmMain::MDIForm_Unload() {
+    if (!m_slots.AnyCurveWindowOpen()) emit programEnded();
+}
+
+void frmMain::mnuCloseAll_Click() {
+    for (;;) {
+        QMdiSubWindow* target = m_mdi->currentSubWindow();
+        if (!target) {
+            const QList<QMdiSubWindow*> left = m_mdi->subWindowList(QMdiArea::ActivationHistoryOrder);
+            if (left.isEmpty()) return;
+            target = left.last();
+        }
+        // A refused close ends the command rather than asking the same window again.
+        if (!target->close()) return;
+    }
+}
+
+void frmMain::mnuWindowCascade_Click() { m_mdi->cascadeSubWindows(); }
+
+void frmMain::mnuWindowTileHorizontal_Click() { TileSubWindows(*m_mdi, TileDirection::Horizontal); }
+
+void frmMain::mnuWindowTileVertical_Click() { TileSubWindows(*m_mdi, TileDirection::Vertical); }
+
+void frmMain::mnuWindowArrangeIcons_Click() { ArrangeIcons(*m_mdi); }
+
+void frmMain::mnuGradewise_web_Click() { m_platform.OpenUrl(QString::fromLatin1(kHomePage)); }
+
+}  // namespace gw

@@ -1,0 +1,69 @@
+#pragma once
+// frmMain: the frame with the menus, the status bar and the curve windows.
+
+#include <QMainWindow>
+#include <memory>
+
+#include "main_menus.h"
+#include "ui/curve/window_slots.h"
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace gw {
+
+class MainStatusBar;
+class Platform;
+class frmCrestCurve;
+class frmInformation;
+
+class frmMain : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit frmMain(Platform& platform, QWidget* parent = nullptr);
+    ~frmMain() override;
+
+    // Start-up: shows the frame and makes the program's folder the current folder.
+    void MDIForm_Load();
+
+    WindowSlots& Slots() { return m_slots; }
+    QMdiArea& MdiArea() { return *m_mdi; }
+    const MainMenus& Menus() const { return m_menus; }
+    MainStatusBar& StatusBar() { return *m_status; }
+    // The curve window commands act on: the current child even while the frame is
+    // not the active window.
+    frmCrestCurve* ActiveCurveWindow() const;
+    // Created on first use and kept, hidden, with its last answer.
+    frmInformation& UnitsDialog();
+
+    void mnuVerticalCrest_Click();
+    void mnuFileExit_Click();
+    void mnuCloseAll_Click();
+    void mnuWindowCascade_Click();
+    void mnuWindowTileHorizontal_Click();
+    void mnuWindowTileVertical_Click();
+    void mnuWindowArrangeIcons_Click();
+    void mnuGradewise_web_Click();
+
+signals:
+    // Every curve window has closed with the frame: the program ends.
+    void programEnded();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void ConnectMenus();
+    QMdiSubWindow* AddCurveWindow(frmCrestCurve* window);
+    void MDIForm_Unload();
+
+    Platform& m_platform;
+    WindowSlots m_slots;
+    QMdiArea* m_mdi = nullptr;
+    MainStatusBar* m_status = nullptr;
+    MainMenus m_menus;
+    frmInformation* m_units = nullptr;
+};
+
+}  // namespace gw

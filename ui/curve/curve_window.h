@@ -1,0 +1,91 @@
+#pragma once
+// frmCrestCurve: the document window of one vertical curve. It holds the curve's
+// texts in its fields; every command gathers a CurveSheet from them, lets the core
+// work on it and puts the texts back.
+
+#include <QPointer>
+#include <QString>
+#include <QWidget>
+#include <map>
+#include <string_view>
+
+#include "core/curve_sheet.h"
+#include "core/refusal.h"
+
+class QGroupBox;
+class QKeyEvent;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+
+namespace gw {
+
+class CurvePicture;
+class Platform;
+class WindowSlots;
+
+class frmCrestCurve : public QWidget {
+    Q_OBJECT
+
+public:
+    // Form_Load: takes the unit system ("Metric" or "English"), enters the PVI mode
+    // and empties itself and the slot's elevations.
+    frmCrestCurve(WindowSlots& windowSlots, int slot, const QString& unitSystem, Platform& platform,
+                  QWidget* parent = nullptr);
+
+    int Slot() const { return m_slot; }
+    QString Tag() const { return QString::number(m_slot); }
+    QString UnitSystem() const;
+    QLineEdit* Field(std::string_view name) const;
+
+    CurveSheet GatherSheet() const;
+    void ScatterSheet(const CurveSheet& sheet);
+
+    void optPVI_Click();
+    void optPVCPVT_Click();
+    void cmdCalcP_Click();
+    void cmdClear_Click();
+    void cmdMoreTOS_Click();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void BuildControls();
+    void ApplyMode(bool pvi);
+    void FocusFirstInput();
+    void Report(const Refusal& refusal);
+    void PutFocusBack(QLineEdit* field);
+
+    // Form_KeyPress and the Enter key; true when the key is discarded.
+    bool Form_KeyPress(QLineEdit* field, QKeyEvent* key);
+    bool ExceedsLimit(QLineEdit* field, QKeyEvent* key) const;
+    void FieldLostFocus(QLineEdit* field, Qt::FocusReason reason);
+    void ReportFieldProblem();
+    void Form_Unload();
+
+    WindowSlots& m_slots;
+    Platform& m_platform;
+    const int m_slot;
+
+    std::map<std::string_view, QLineEdit*> m_fields;
+    std::map<QLineEdit*, int> m_limits;  // typed-character limits
+    QGroupBox* m_frame1 = nullptr;
+    QRadioButton* m_optPVI = nullptr;
+    QRadioButton* m_optPVCPVT = nullptr;
+    QLabel* m_lblSDL = nullptr;
+    QLabel* m_lblMorF = nullptr;
+    QPushButton* m_cmdCalcP = nullptr;
+    QPushButton* m_cmdClear = nullptr;
+    QPushButton* m_cmdMoreTOS = nullptr;
+    CurvePicture* m_picture = nullptr;
+
+    // Set while the window itself moves the focus or shows a box: the focus churn that
+    // causes is not the user leaving a field.
+    bool m_movingFocus = false;
+    QPointer<QLineEdit> m_pendingField;  // left with a failing check, report queued
+};
+
+}  // namespace gw
