@@ -4,11 +4,13 @@
 #include <QTimer>
 
 #include "platform/qt_platform.h"
+#include "shell/app_icon.h"
 #include "shell/main_window.h"
 
 int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Gradewise"));
+    QApplication::setWindowIcon(gw::AppIcon());
     // The program ends by its own rule: when the frame has closed every curve window.
     QApplication::setQuitOnLastWindowClosed(false);
 

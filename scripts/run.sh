@@ -1,18 +1,24 @@
 #!/usr/bin/env bash
-# Builds Gradewise and solves the bundled example curve (any extra arguments go to
-# gradewise-cli instead).
+# Builds Gradewise and starts the desktop program. Any arguments go to gradewise-cli
+# instead (for example: ./scripts/run.sh solve examples/english-crest.gwf).
 set -euo pipefail
 cd "$(dirname "$0")/.."
 source scripts/packages.sh
 scripts/ensure-packages.sh "${BUILD_PACKAGES[@]}"
 cmake --preset release >/dev/null
 cmake --build --preset release
-cli=build/release/cli/gradewise-cli
 if [ $# -gt 0 ]; then
-  exec "$cli" "$@"
+  exec build/release/cli/gradewise-cli "$@"
 fi
-echo "== gradewise-cli solve --elevations examples/english-crest.gwf --json"
-"$cli" solve --elevations --json examples/english-crest.gwf
-echo "== gradewise-cli report (the same curve, solved)"
-"$cli" solve --elevations examples/english-crest.gwf -o build/release/english-crest-solved.gwf
-"$cli" report build/release/english-crest-solved.gwf
+if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
+  cat >&2 <<'MSG'
+There is no display to show Gradewise on ($DISPLAY and $WAYLAND_DISPLAY are unset).
+Run it from a desktop session, or on a virtual X display with xvfb-run:
+
+    xvfb-run -a build/release/app/gradewise
+
+(gradewise-cli works without a display: ./scripts/run.sh --help)
+MSG
+  exit 1
+fi
+exec build/release/app/gradewise
