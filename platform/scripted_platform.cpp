@@ -18,12 +18,13 @@ private:
     int m_page = 1;
 };
 
+// Moves the next queued answer into `out`; false when nothing is queued.
 template <class T>
-std::optional<T> PopFront(std::deque<T>& queue) {
-    if (queue.empty()) return std::nullopt;
-    T value = std::move(queue.front());
+bool TakeNext(std::deque<T>& queue, T& out) {
+    if (queue.empty()) return false;
+    out = std::move(queue.front());
     queue.pop_front();
-    return value;
+    return true;
 }
 
 }  // namespace
@@ -59,7 +60,8 @@ void ScriptedPlatform::ClearRecords() {
 
 MessageButton ScriptedPlatform::ShowMessage(QWidget*, const MessageRequest& request) {
     m_messages.push_back(request);
-    if (auto answer = PopFront(m_messageAnswers)) return *answer;
+    MessageButton answer{};
+    if (TakeNext(m_messageAnswers, answer)) return answer;
     Unexpected(QStringLiteral("unexpected message box: \"%1\"").arg(request.text));
     return request.buttons == MessageButtons::Ok ? MessageButton::Ok : MessageButton::Cancel;
 }
@@ -70,9 +72,9 @@ void ScriptedPlatform::ShowModal(QDialog& dialog) {
     // the script answers it and we return, with no event loop of our own.
     dialog.show();
     dialog.activateWindow();
-    auto script = PopFront(m_dialogScripts);
-    if (script) {
-        (*script)(dialog);
+    DialogScript script;
+    if (TakeNext(m_dialogScripts, script)) {
+        script(dialog);
     } else {
         Unexpected(QStringLiteral("unexpected dialog: %1").arg(dialog.objectName()));
     }
@@ -84,20 +86,23 @@ void ScriptedPlatform::ShowModal(QDialog& dialog) {
 
 std::optional<QString> ScriptedPlatform::GetOpenFileName(QWidget*, const FileDialogRequest& request) {
     m_openRequests.push_back(request);
-    if (auto answer = PopFront(m_openAnswers)) return *answer;
+    std::optional<QString> answer;
+    if (TakeNext(m_openAnswers, answer)) return answer;
     Unexpected(QStringLiteral("unexpected open-file dialog: %1").arg(request.title));
     return std::nullopt;
 }
 
 std::optional<QString> ScriptedPlatform::GetSaveFileName(QWidget*, const FileDialogRequest& request) {
     m_saveRequests.push_back(request);
-    if (auto answer = PopFront(m_saveAnswers)) return *answer;
+    std::optional<QString> answer;
+    if (TakeNext(m_saveAnswers, answer)) return answer;
     Unexpected(QStringLiteral("unexpected save-file dialog: %1").arg(request.title));
     return std::nullopt;
 }
 
 std::optional<int> ScriptedPlatform::ShowPrintDialog(QWidget*, int) {
-    if (auto answer = PopFront(m_printAnswers)) return *answer;
+    std::optional<int> answer;
+    if (TakeNext(m_printAnswers, answer)) return answer;
     Unexpected(QStringLiteral("unexpected print dialog"));
     return std::nullopt;
 }
