@@ -34,6 +34,7 @@ frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_p
     m_status = new MainStatusBar(m_platform, this);
     setStatusBar(m_status);
     ConnectMenus();
+    m_slots.AttachElevations(m_platform);
     resize(1000, 700);
 }
 

@@ -13,6 +13,7 @@
 #include "curve_picture.h"
 #include "platform/platform.h"
 #include "ui/common/field_style.h"
+#include "ui/elevations/elevations_window.h"
 #include "window_slots.h"
 
 namespace gw {
@@ -221,7 +222,12 @@ void frmCrestCurve::cmdCalcP_Click() {
 void frmCrestCurve::cmdMoreTOS_Click() {
     cmdCalcP_Click();
     if (!IsNumericText(S(Field("txtPVCSTA")->text())) && !IsNumericText(S(Field("txtPVCSTAM")->text()))) return;
-    // The slot's elevations window is shown here, modally, once it exists.
+    if (ElevationsWindow* elevations = m_slots.ElevationsWindowOf(m_slot)) {
+        m_platform.ShowModal(*elevations);
+        // Nothing re-activates the curve's frame after the modal window when no
+        // window manager runs.
+        if (QWidget* frame = window()) frame->activateWindow();
+    }
 }
 
 }  // namespace gw

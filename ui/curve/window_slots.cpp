@@ -1,10 +1,32 @@
 #include "window_slots.h"
 
 #include "curve_window.h"
+#include "slot_elevations.h"
+#include "ui/elevations/auto_station_dialog.h"
+#include "ui/elevations/elevations_window.h"
 
 namespace gw {
 
 WindowSlots::WindowSlots() : m_curveWindows(1), m_elevations(1), m_states(1) {}
+
+WindowSlots::~WindowSlots() = default;
+
+void WindowSlots::AttachElevations(Platform& platform) { m_platform = &platform; }
+
+ElevationsWindow* WindowSlots::ElevationsWindowOf(int slot) {
+    if (!m_platform || slot <= 0 || slot >= Count()) return nullptr;
+    if (!m_autoStation) m_autoStation = std::make_unique<AutoStationDialog>(*m_platform);
+    if (m_elevationsWindows.size() < size_t(Count())) {
+        m_elevationsWindows.resize(size_t(Count()));
+        m_links.resize(size_t(Count()));
+    }
+    auto& window = m_elevationsWindows[size_t(slot)];
+    if (!window) {
+        m_links[size_t(slot)] = std::make_unique<SlotElevations>(*this, slot);
+        window = std::make_unique<ElevationsWindow>(*m_links[size_t(slot)], *m_platform, *m_autoStation);
+    }
+    return window.get();
+}
 
 int WindowSlots::AllocateWindowSlot() {
     for (int i = 1; i < Count(); ++i) {

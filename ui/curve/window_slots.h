@@ -4,12 +4,17 @@
 // shrink during a run; slot 0 exists from the start and is never handed out.
 
 #include <QPointer>
+#include <memory>
 #include <vector>
 
 #include "core/curve_sheet.h"
 
 namespace gw {
 
+class AutoStationDialog;
+class ElevationsWindow;
+class Platform;
+class SlotElevations;
 class frmCrestCurve;
 
 struct WindowState {
@@ -20,6 +25,7 @@ struct WindowState {
 class WindowSlots {
 public:
     WindowSlots();
+    ~WindowSlots();
 
     // The lowest free slot from 1 up, else a new one at the end; marks it in use.
     int AllocateWindowSlot();
@@ -39,7 +45,22 @@ public:
     // What the slot's elevations window holds; kept for the whole run.
     ElevationTable& Elevations(int slot) { return m_elevations.at(size_t(slot)); }
 
+    // The elevations windows share one auto-stationing dialog and report through
+    // the platform; the frame hands it over once.
+    void AttachElevations(Platform& platform);
+    // The slot's elevations window, created on first use and kept; nullptr until
+    // AttachElevations.
+    ElevationsWindow* ElevationsWindowOf(int slot);
+
 private:
+    // Windows of their own rather than children of the frame, so that showing one
+    // activates it and its first row takes the focus; owned here, and gone before
+    // the links and the dialog they use.
+    Platform* m_platform = nullptr;
+    std::unique_ptr<AutoStationDialog> m_autoStation;
+    std::vector<std::unique_ptr<SlotElevations>> m_links;
+    std::vector<std::unique_ptr<ElevationsWindow>> m_elevationsWindows;
+
     std::vector<QPointer<frmCrestCurve>> m_curveWindows;
     std::vector<ElevationTable> m_elevations;
     std::vector<WindowState> m_states;
