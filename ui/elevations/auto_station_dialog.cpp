@@ -24,6 +24,9 @@ AutoStationDialog::AutoStationDialog(Platform& platform, QWidget* parent) : QDia
     setObjectName("dlgAuto");
     setWindowTitle(auto_station_text::kCaption);
     setFixedSize(222, 222);
+    QFont small = font();
+    small.setPointSizeF(8);
+    setFont(small);
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
     m_checks = new LeaveChecks(platform, *this);
     BuildControls();

@@ -41,6 +41,10 @@ ElevationsWindow::ElevationsWindow(ElevationsSlot& slot, Platform& platform, Aut
     setObjectName("frmTS");
     setWindowTitle(elevations_text::kCaption);
     setFixedSize(520, 398);
+    // The layout is drawn for a small dialog font; a larger one runs labels into fields.
+    QFont small = font();
+    small.setPointSizeF(8);
+    setFont(small);
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
     m_checks = new LeaveChecks(platform, *this);
     BuildControls();
