@@ -1,8 +1,15 @@
 #include "platform.h"
 
+#include <QStandardPaths>
+
 #include "core/messages.h"
 
 namespace gw {
+
+QString UserSettingsPath() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/Gradewise/settings.ini");
+}
 
 void ShowRefusal(Platform& platform, QWidget* owner, const QString& text) {
     MessageRequest request;

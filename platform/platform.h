@@ -2,13 +2,17 @@
 // The one seam between the program and the desktop: every message box, modal dialog,
 // file and print dialog, the printer, the busy cursor, the clock and the shell's
 // open-address request go through here, so tests can answer them without a person.
-// (The settings store is a class of its own.)
+// The per-user settings store is reached through here too, so tests can point it at
+// a folder of their own.
 
 #include <QDateTime>
 #include <QLocale>
 #include <QString>
 #include <memory>
 #include <optional>
+#include <vector>
+
+#include "files/settings_store.h"
 
 class QDialog;
 class QWidget;
@@ -27,12 +31,26 @@ struct MessageRequest {
     MessageButton defaultButton = MessageButton::Ok;
 };
 
+// One entry of a file dialog's filter list: what the user reads and the pattern of
+// names it shows ("*.*" meaning every file, whatever the platform's own convention).
+struct FileFilter {
+    QString description;
+    QString pattern;
+};
+
+// The dialogs never ask before overwriting, never check that the chosen name exists
+// and never add an extension: the commands decide what a chosen name means.
 struct FileDialogRequest {
-    QString title;
+    QString title;  // empty: the platform's own title for an open or a save dialog
     QString folder;
     QString fileName;  // proposed name
-    QString filter;    // "Curve files (*.gwf)"
+    std::vector<FileFilter> filters;
+    int selectedFilter = 0;  // index into filters
 };
+
+// Where the per-user settings live: "Gradewise" in the platform's per-user
+// configuration folder.
+QString UserSettingsPath();
 
 // One print job, line by line, in the order the report is laid out.
 class LinePrinter {
@@ -63,6 +81,9 @@ public:
     virtual std::optional<int> ShowPrintDialog(QWidget* owner, int copies) = 0;
     // A job on the printer last chosen in the print dialog (or the default one).
     virtual std::unique_ptr<LinePrinter> StartPrintJob(const QString& documentName) = 0;
+
+    // The per-user settings store, kept between runs.
+    virtual SettingsStore& Settings() = 0;
 
     virtual void SetBusyCursor(bool busy) = 0;
     virtual QDateTime Now() const = 0;

@@ -73,9 +73,31 @@ private:
     bool m_ok = false;
 };
 
-std::optional<QString> Chosen(const QString& path) {
-    if (path.isEmpty()) return std::nullopt;
-    return path;
+// A Qt name filter that shows `description` alone and filters by `pattern`; "*.*"
+// means every file, which on this platform is "*" (names need not hold a dot).
+QString QtNameFilter(const FileFilter& filter) {
+    const QString pattern = filter.pattern == QLatin1String("*.*") ? QStringLiteral("*") : filter.pattern;
+    return QStringLiteral("%1 (%2)").arg(filter.description, pattern);
+}
+
+std::optional<QString> RunFileDialog(QWidget* owner, const FileDialogRequest& request,
+                                     QFileDialog::AcceptMode mode) {
+    QFileDialog dialog(owner, request.title, request.folder);
+    dialog.setAcceptMode(mode);
+    // Any name may be chosen, existing or not: the commands report a missing file.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setOptions(QFileDialog::DontConfirmOverwrite | QFileDialog::HideNameFilterDetails);
+    QStringList filters;
+    for (const FileFilter& f : request.filters) filters << QtNameFilter(f);
+    dialog.setNameFilters(filters);
+    if (request.selectedFilter >= 0 && request.selectedFilter < filters.size()) {
+        dialog.selectNameFilter(filters.at(request.selectedFilter));
+    }
+    if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
+    if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    const QStringList chosen = dialog.selectedFiles();
+    if (chosen.isEmpty() || chosen.first().isEmpty()) return std::nullopt;
+    return chosen.first();
 }
 
 }  // namespace
@@ -102,13 +124,16 @@ MessageButton QtPlatform::ShowMessage(QWidget* owner, const MessageRequest& requ
 void QtPlatform::ShowModal(QDialog& dialog) { dialog.exec(); }
 
 std::optional<QString> QtPlatform::GetOpenFileName(QWidget* owner, const FileDialogRequest& request) {
-    return Chosen(QFileDialog::getOpenFileName(owner, request.title, QDir(request.folder).filePath(request.fileName),
-                                               request.filter));
+    return RunFileDialog(owner, request, QFileDialog::AcceptOpen);
 }
 
 std::optional<QString> QtPlatform::GetSaveFileName(QWidget* owner, const FileDialogRequest& request) {
-    return Chosen(QFileDialog::getSaveFileName(owner, request.title, QDir(request.folder).filePath(request.fileName),
-                                               request.filter));
+    return RunFileDialog(owner, request, QFileDialog::AcceptSave);
+}
+
+SettingsStore& QtPlatform::Settings() {
+    if (!m_settings) m_settings = std::make_unique<SettingsStore>(UserSettingsPath().toStdString());
+    return *m_settings;
 }
 
 QPrinter& QtPlatform::Printer() {

@@ -20,6 +20,7 @@ public:
     std::optional<QString> GetSaveFileName(QWidget* owner, const FileDialogRequest& request) override;
     std::optional<int> ShowPrintDialog(QWidget* owner, int copies) override;
     std::unique_ptr<LinePrinter> StartPrintJob(const QString& documentName) override;
+    SettingsStore& Settings() override;
     void SetBusyCursor(bool busy) override;
     QDateTime Now() const override;
     QLocale Locale() const override;
@@ -30,6 +31,7 @@ private:
 
     // Kept between the print dialog and the job, as the one printer the user chose.
     std::unique_ptr<QPrinter> m_printer;
+    std::unique_ptr<SettingsStore> m_settings;
     bool m_busy = false;
 };
 

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+
 namespace gw {
 namespace {
 
@@ -28,6 +29,9 @@ bool TakeNext(std::deque<T>& queue, T& out) {
 }
 
 }  // namespace
+
+ScriptedPlatform::ScriptedPlatform() = default;
+ScriptedPlatform::~ScriptedPlatform() = default;
 
 void ScriptedPlatform::Unexpected(const QString& what) {
     if (m_unexpected) m_unexpected(what);
@@ -60,6 +64,7 @@ void ScriptedPlatform::ClearRecords() {
 
 MessageButton ScriptedPlatform::ShowMessage(QWidget*, const MessageRequest& request) {
     m_messages.push_back(request);
+    if (m_busy) ++m_messagesUnderBusy;
     MessageButton answer{};
     if (TakeNext(m_messageAnswers, answer)) return answer;
     Unexpected(QStringLiteral("unexpected message box: \"%1\"").arg(request.text));
@@ -109,6 +114,16 @@ std::optional<int> ScriptedPlatform::ShowPrintDialog(QWidget*, int) {
 
 std::unique_ptr<LinePrinter> ScriptedPlatform::StartPrintJob(const QString&) {
     return std::make_unique<RecordingPrinter>(m_printed);
+}
+
+SettingsStore& ScriptedPlatform::Settings() {
+    if (!m_settings) m_settings = std::make_unique<SettingsStore>(UserSettingsPath().toStdString());
+    return *m_settings;
+}
+
+void ScriptedPlatform::SetBusyCursor(bool busy) {
+    if (busy && !m_busy) ++m_busySpells;
+    m_busy = busy;
 }
 
 QDateTime ScriptedPlatform::Now() const {

@@ -23,6 +23,9 @@ public:
         QString text;
     };
 
+    ScriptedPlatform();
+    ~ScriptedPlatform() override;
+
     void OnUnexpected(std::function<void(const QString&)> report) { m_unexpected = std::move(report); }
 
     void AnswerMessage(MessageButton answer) { m_messageAnswers.push_back(answer); }
@@ -40,6 +43,10 @@ public:
     const std::vector<PrintedLine>& Printed() const { return m_printed; }
     const QStringList& OpenedUrls() const { return m_openedUrls; }
     bool Busy() const { return m_busy; }
+    // How often the busy pointer was put up, and how many boxes were shown under it
+    // (a command must restore the pointer before it reports).
+    int BusySpells() const { return m_busySpells; }
+    int MessagesUnderBusyPointer() const { return m_messagesUnderBusy; }
 
     // Answers queued but never asked for: a test that expected a box it did not get.
     QStringList Unused() const;
@@ -51,7 +58,10 @@ public:
     std::optional<QString> GetSaveFileName(QWidget* owner, const FileDialogRequest& request) override;
     std::optional<int> ShowPrintDialog(QWidget* owner, int copies) override;
     std::unique_ptr<LinePrinter> StartPrintJob(const QString& documentName) override;
-    void SetBusyCursor(bool busy) override { m_busy = busy; }
+    // The store in the per-user configuration folder, as on the desktop: tests point
+    // that folder (XDG_CONFIG_HOME) at a temporary one before the first use.
+    SettingsStore& Settings() override;
+    void SetBusyCursor(bool busy) override;
     QDateTime Now() const override;
     QLocale Locale() const override { return QLocale::c(); }
     void OpenUrl(const QString& url) override { m_openedUrls << url; }
@@ -70,7 +80,10 @@ private:
     std::vector<PrintedLine> m_printed;
     QStringList m_openedUrls;
     QDateTime m_now;
+    std::unique_ptr<SettingsStore> m_settings;
     bool m_busy = false;
+    int m_busySpells = 0;
+    int m_messagesUnderBusy = 0;
 };
 
 }  // namespace gw

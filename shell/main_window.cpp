@@ -9,6 +9,8 @@
 #include <QMenuBar>
 
 #include "core/messages.h"
+#include "files/commands/file_commands.h"
+#include "files/commands/recent_files_menu.h"
 #include "platform/platform.h"
 #include "status_bar.h"
 #include "ui/curve/curve_window.h"
@@ -34,6 +36,7 @@ frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_p
     m_status = new MainStatusBar(m_platform, this);
     setStatusBar(m_status);
     ConnectMenus();
+    ConnectFileMenu();
     m_slots.AttachElevations(m_platform);
     resize(1000, 700);
 }
@@ -55,6 +58,7 @@ void frmMain::ConnectMenus() {
 void frmMain::MDIForm_Load() {
     show();
     QDir::setCurrent(QCoreApplication::applicationDirPath());
+    m_recent->UpdateRecentFileMenu();
 }
 
 frmCrestCurve* frmMain::ActiveCurveWindow() const {

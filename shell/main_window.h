@@ -4,6 +4,7 @@
 #include <QMainWindow>
 #include <memory>
 
+#include "files/commands/curve_window_host.h"
 #include "main_menus.h"
 #include "ui/curve/window_slots.h"
 
@@ -12,12 +13,14 @@ class QMdiSubWindow;
 
 namespace gw {
 
+class FileCommands;
 class MainStatusBar;
+class RecentFilesMenu;
 class Platform;
 class frmCrestCurve;
 class frmInformation;
 
-class frmMain : public QMainWindow {
+class frmMain : public QMainWindow, public CurveWindowHost {
     Q_OBJECT
 
 public:
@@ -33,11 +36,18 @@ public:
     MainStatusBar& StatusBar() { return *m_status; }
     // The curve window commands act on: the current child even while the frame is
     // not the active window.
-    frmCrestCurve* ActiveCurveWindow() const;
+    frmCrestCurve* ActiveCurveWindow() const override;
+    frmCrestCurve* OpenCurveWindow(int slot) override;
     // Created on first use and kept, hidden, with its last answer.
     frmInformation& UnitsDialog();
 
     void mnuVerticalCrest_Click();
+    void mnuOpen_Click();
+    void mnuSave_Click();
+    void mnuSaveAs_Click();
+    void mnuRecentFile_Click(int index);
+    FileCommands& Files() { return *m_files; }
+    RecentFilesMenu& RecentFileMenu() { return *m_recent; }
     void mnuFileExit_Click();
     void mnuCloseAll_Click();
     void mnuWindowCascade_Click();
@@ -55,6 +65,7 @@ protected:
 
 private:
     void ConnectMenus();
+    void ConnectFileMenu();
     QMdiSubWindow* AddCurveWindow(frmCrestCurve* window);
     void MDIForm_Unload();
 
@@ -64,6 +75,8 @@ private:
     MainStatusBar* m_status = nullptr;
     MainMenus m_menus;
     frmInformation* m_units = nullptr;
+    std::unique_ptr<RecentFilesMenu> m_recent;
+    std::unique_ptr<FileCommands> m_files;
 };
 
 }  // namespace gw

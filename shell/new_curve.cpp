@@ -27,12 +27,18 @@ void frmMain::mnuVerticalCrest_Click() {
 
     const int slot = m_slots.AllocateWindowSlot();
     m_slots.State(slot).changed = false;
-    const bool metric = units.MetricOn();
-    // Loading the window empties it and the slot's elevations.
+    frmCrestCurve* curve = OpenCurveWindow(slot);
+    curve->setWindowTitle(QString::fromStdString(UntitledTitle(units.MetricOn())));
+}
+
+frmCrestCurve* frmMain::OpenCurveWindow(int slot) {
+    // The window takes its units from the units dialog as it was last left; loading
+    // it empties it and the slot's elevations.
+    const bool metric = UnitsDialog().MetricOn();
     auto* curve = new frmCrestCurve(m_slots, slot, QString::fromUtf8(metric ? kMetric.data() : kEnglish.data()),
                                     m_platform);
     AddCurveWindow(curve)->show();
-    curve->setWindowTitle(QString::fromStdString(UntitledTitle(metric)));
+    return curve;
 }
 
 QMdiSubWindow* frmMain::AddCurveWindow(frmCrestCurve* window) {

@@ -112,6 +112,7 @@ TEST_F(NewCurveTest, ReusedSlotStartsWithEmptyElevationsAndUnchanged) {
     Main().Slots().Elevations(1).txtXSlope = "2";
     ClickInto(first.Field("txtG1"));
     QTest::keyClick(first.Field("txtG1"), Qt::Key_5);
+    m_platform.AnswerMessage(MessageButton::No);  // closed unsaved
     first.parentWidget()->close();
     Settle();
 

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QDirIterator>
 #include <QRadioButton>
 #include <QTest>
 
@@ -25,8 +26,17 @@ void UiTest::TearDown() {
                       << w->objectName().toStdString();
         delete w;
     }
-    // Nothing the windows did may have written settings of their own.
-    EXPECT_TRUE(QDir(m_settings.path()).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot));
+    // The program's own settings file is the only thing it may keep per user.
+    const QDir settings(m_settings.path());
+    const QString own = settings.relativeFilePath(UserSettingsPath());
+    QStringList written;
+    QDirIterator it(m_settings.path(), QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString entry = settings.relativeFilePath(it.next());
+        if (entry != own && !own.startsWith(entry + QLatin1Char('/'))) written << entry;
+    }
+    EXPECT_TRUE(written.isEmpty()) << "written per user: " << written.join(QStringLiteral(", ")).toStdString();
 }
 
 frmMain& UiTest::Main() {
@@ -37,6 +47,12 @@ frmMain& UiTest::Main() {
         EXPECT_TRUE(QTest::qWaitForWindowActive(m_main.get()));
     }
     return *m_main;
+}
+
+frmMain& UiTest::RestartMain() {
+    m_main.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    return Main();
 }
 
 frmCrestCurve& UiTest::NewCurve(bool metric) {

@@ -23,6 +23,8 @@ protected:
 
     // The main window after start-up, shown and active.
     frmMain& Main();
+    // Ends the main window's run and starts a new one over the same settings folder.
+    frmMain& RestartMain();
     // New curve with the units dialog answered by choosing the units and pressing Enter.
     frmCrestCurve& NewCurve(bool metric = true);
 

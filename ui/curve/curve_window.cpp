@@ -149,6 +149,19 @@ void frmCrestCurve::ScatterSheet(const CurveSheet& sheet) {
     m_picture->update();
 }
 
+void frmCrestCurve::ShowStoredCurve(const CurveSheet& sheet) {
+    if (sheet.optPVCPVT) optPVCPVT_Click();
+    m_lblMorF->setText(Q(sheet.lblMorF));
+    m_picture->SetMetric(IsMetric(sheet.lblMorF));
+    // Stored states are given without a click: a short file turns both options off
+    // and nothing is cleared again.
+    for (QRadioButton* option : {m_optPVI, m_optPVCPVT}) option->setAutoExclusive(false);
+    m_optPVI->setChecked(sheet.optPVI);
+    m_optPVCPVT->setChecked(sheet.optPVCPVT);
+    for (QRadioButton* option : {m_optPVI, m_optPVCPVT}) option->setAutoExclusive(true);
+    ScatterSheet(sheet);
+}
+
 void frmCrestCurve::ApplyMode(bool pvi) {
     m_optPVI->setChecked(pvi);
     m_optPVCPVT->setChecked(!pvi);

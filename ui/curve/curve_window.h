@@ -41,6 +41,9 @@ public:
 
     CurveSheet GatherSheet() const;
     void ScatterSheet(const CurveSheet& sheet);
+    // A curve read from a file (the core has applied the load rules): its mode laid
+    // out, its unit label, option states and texts put in place, unchanged.
+    void ShowStoredCurve(const CurveSheet& sheet);
 
     void optPVI_Click();
     void optPVCPVT_Click();
@@ -64,6 +67,8 @@ private:
     bool ExceedsLimit(QLineEdit* field, QKeyEvent* key) const;
     void FieldLostFocus(QLineEdit* field, Qt::FocusReason reason);
     void ReportFieldProblem();
+    // The close question; sets `cancel` to keep the window open.
+    void Form_QueryUnload(bool& cancel);
     void Form_Unload();
 
     WindowSlots& m_slots;

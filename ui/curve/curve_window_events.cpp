@@ -118,6 +118,12 @@ void frmCrestCurve::PutFocusBack(QLineEdit* field) {
 }
 
 void frmCrestCurve::closeEvent(QCloseEvent* event) {
+    bool cancel = false;
+    Form_QueryUnload(cancel);
+    if (cancel) {
+        event->ignore();
+        return;
+    }
     Form_Unload();
     event->accept();
 }

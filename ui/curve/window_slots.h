@@ -12,6 +12,7 @@
 namespace gw {
 
 class AutoStationDialog;
+class CurveSaver;
 class ElevationsWindow;
 class Platform;
 class SlotElevations;
@@ -52,11 +53,17 @@ public:
     // AttachElevations.
     ElevationsWindow* ElevationsWindowOf(int slot);
 
+    // The file commands, through which a curve window's close question saves; the
+    // frame hands them over once. nullptr until then.
+    void AttachSaver(CurveSaver& saver) { m_saver = &saver; }
+    CurveSaver* Saver() const { return m_saver; }
+
 private:
     // Windows of their own rather than children of the frame, so that showing one
     // activates it and its first row takes the focus; owned here, and gone before
     // the links and the dialog they use.
     Platform* m_platform = nullptr;
+    CurveSaver* m_saver = nullptr;
     std::unique_ptr<AutoStationDialog> m_autoStation;
     std::vector<std::unique_ptr<SlotElevations>> m_links;
     std::vector<std::unique_ptr<ElevationsWindow>> m_elevationsWindows;

@@ -1,0 +1,294 @@
+// Open, Save and Save As through the File menu: the titles that record the path,
+// the dialogs' settings, the bytes written, and what a failed write leaves behind.
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QRadioButton>
+#include <csignal>
+#include <cstring>
+#include <sys/resource.h>
+
+#include "core/curve_file.h"
+#include "file_fixture.h"
+
+namespace gw::test {
+namespace {
+
+class FileCommandsTest : public FileTest {};
+
+TEST_F(FileCommandsTest, SaveOfAnUntitledCurveWritesItAndTitlesItWithTwoBlanks) {
+    frmCrestCurve& w = NewCurve();
+    const QString path = FilePath("a.gwf");
+    m_platform.AnswerSaveFile(path);
+    Save();
+    EXPECT_EQ(Bytes(path), EmptyCurveBytes("Metric"));
+    EXPECT_EQ(Title(w), "Vertical Curve - Metric:  " + path);
+    EXPECT_FALSE(Changed(w));
+    EXPECT_TRUE(RecentShown().isEmpty());  // Save never lists a path
+
+    ASSERT_EQ(m_platform.SaveRequests().size(), 1u);
+    const FileDialogRequest& asked = m_platform.SaveRequests().front();
+    EXPECT_EQ(asked.fileName, "");
+    EXPECT_EQ(asked.title, "");
+    EXPECT_EQ(asked.folder, QCoreApplication::applicationDirPath());
+    ASSERT_EQ(asked.filters.size(), 2u);
+    EXPECT_EQ(asked.filters[0].description, "All Files (*.*)");
+    EXPECT_EQ(asked.filters[0].pattern, "*.*");
+    EXPECT_EQ(asked.filters[1].description, "Gradewise files (*.gwf)");
+    EXPECT_EQ(asked.filters[1].pattern, "*.gwf");
+    EXPECT_EQ(asked.selectedFilter, 1);
+
+    // Saved again without a dialog, over the file, to the path without its leading blank.
+    PutBytes(path, "old");
+    TypeInto(w.Field("txtLC"), "12.50");
+    Save();
+    EXPECT_EQ(m_platform.SaveRequests().size(), 1u);
+    EXPECT_TRUE(Bytes(path).contains("\"12.50\""));
+    EXPECT_EQ(QDir(FilePath("")).entryList(QDir::Files), QStringList{"a.gwf"});
+    EXPECT_EQ(m_platform.BusySpells(), 2);
+    EXPECT_FALSE(m_platform.Busy());
+}
+
+TEST_F(FileCommandsTest, CancelledSaveLeavesTheCurveUntitledAndWritesNothing) {
+    frmCrestCurve& w = NewCurve(false);
+    TypeInto(w.Field("txtLC"), "1");
+    m_platform.AnswerSaveFile(std::nullopt);
+    Save();
+    EXPECT_EQ(Title(w), "Vertical Curve - English: Untitled");
+    EXPECT_TRUE(Changed(w));
+    EXPECT_TRUE(QDir(FilePath("")).isEmpty());
+    EXPECT_EQ(m_platform.BusySpells(), 0);
+}
+
+struct SaveAsCase {
+    const char* name;
+    bool savedFirst;  // saved with Save before, so titled with two blanks
+};
+
+void PrintTo(const SaveAsCase& c, std::ostream* os) { *os << c.name; }
+
+class SaveAsTest : public FileCommandsTest, public ::testing::WithParamInterface<SaveAsCase> {};
+
+TEST_P(SaveAsTest, TitlesTheCurveWithOneBlankAndListsThePathFirst) {
+    frmCrestCurve& w = NewCurve(false);
+    if (GetParam().savedFirst) {
+        m_platform.AnswerSaveFile(FilePath("first.gwf"));
+        Save();
+    }
+    const QString path = FilePath("b.gwf");
+    SaveAs(path);
+    EXPECT_EQ(Title(w), "Vertical Curve - English: " + path);
+    EXPECT_EQ(Bytes(path), EmptyCurveBytes("English"));
+    EXPECT_EQ(RecentShown(), QStringList{path});
+    EXPECT_EQ(m_platform.SaveRequests().back().fileName, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Windows, SaveAsTest,
+                         ::testing::Values(SaveAsCase{"Untitled", false}, SaveAsCase{"SavedWithSave", true}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(FileCommandsTest, ANameWithoutExtensionIsUsedAsTyped) {
+    frmCrestCurve& w = NewCurve();
+    const QString path = FilePath("curve");
+    SaveAs(path);
+    EXPECT_TRUE(QFile::exists(path));
+    EXPECT_FALSE(QFile::exists(path + ".gwf"));
+    EXPECT_TRUE(Title(w).endsWith("/curve"));
+    EXPECT_EQ(RecentShown(), QStringList{path});
+}
+
+TEST_F(FileCommandsTest, AFileNamedUntitledLeavesTheCurveUntitled) {
+    NewCurve();
+    SaveAs(FilePath("Untitled"));
+    // Save asks for a path again.
+    m_platform.AnswerSaveFile(std::nullopt);
+    Save();
+    EXPECT_EQ(m_platform.SaveRequests().size(), 2u);
+}
+
+TEST_F(FileCommandsTest, WithoutACurveWindowOnlyOpenDoesAnything) {
+    Main().Menus().mnuSave->trigger();
+    Main().Menus().mnuSaveAs->trigger();
+    EXPECT_TRUE(m_platform.SaveRequests().empty());
+    m_platform.AnswerMessage(MessageButton::Ok);  // for the missing file
+    EXPECT_EQ(Open(FilePath("none.gwf")), nullptr);
+    ASSERT_EQ(m_platform.OpenRequests().size(), 1u);
+    EXPECT_EQ(m_platform.OpenRequests().front().selectedFilter, 1);
+    EXPECT_EQ(m_platform.OpenRequests().front().fileName, "");
+}
+
+TEST_F(FileCommandsTest, OpeningAMissingFileOrAFolderSaysSoAndOpensNothing) {
+    for (const QString& path : {FilePath("missing.gwf"), FilePath("")}) {
+        m_platform.AnswerMessage(MessageButton::Ok);
+        EXPECT_EQ(Open(path), nullptr);
+    }
+    EXPECT_EQ(Messages(), QStringList({"This file does not exist.", "This file does not exist."}));
+    EXPECT_EQ(m_platform.Messages().front().title, "Gradewise");
+    EXPECT_TRUE(RecentShown().isEmpty());
+    EXPECT_FALSE(Main().Slots().AnyCurveWindowOpen());
+}
+
+TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
+    frmCrestCurve& w = NewCurve(false);
+    QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
+    Settle();
+    TypeInto(w.Field("txtG1"), "2");
+    TypeInto(w.Field("txtPVCSTA"), "10");
+    TypeInto(w.Field("txtPVCSTAM"), "0");
+    TypeInto(w.Field("txtPVCEval"), "100");
+    TypeInto(w.Field("txtPVTSTA"), "14");
+    TypeInto(w.Field("txtPVTSTAM"), "0");
+    TypeInto(w.Field("txtPVTEval"), "100");
+    QTest::keyClick(w.Field("txtPVTEval"), Qt::Key_Return);
+    ASSERT_EQ(w.Field("txtLC")->text(), "400.0");
+    const QString path = FilePath("pvc.gwf");
+    SaveAs(path);
+    const QList<QByteArray> lines = Bytes(path).split('\n');
+    ASSERT_EQ(lines.size(), 9);  // eight lines, each ending in CR LF
+    EXPECT_TRUE(lines[3].startsWith("#FALSE#,#TRUE#,")) << lines[3].toStdString();
+
+    frmCrestCurve* opened = Open(path);
+    ASSERT_NE(opened, nullptr);
+    ASSERT_NE(opened, &w);
+    EXPECT_TRUE(opened->findChild<QRadioButton*>("optPVCPVT")->isChecked());
+    EXPECT_FALSE(opened->findChild<QRadioButton*>("optPVI")->isChecked());
+    EXPECT_FALSE(opened->Field("txtPVCEval")->isReadOnly());  // laid out for the mode
+    EXPECT_TRUE(opened->Field("txtLC")->isReadOnly());
+    for (std::string_view name : CurveSheet::CurveFieldNames()) {
+        EXPECT_EQ(opened->Field(name)->text(), w.Field(name)->text()) << name;
+    }
+    EXPECT_EQ(CurveFileBytes(opened->GatherSheet()), CurveFileBytes(w.GatherSheet()));
+    EXPECT_EQ(Title(*opened), "Vertical Curve - English: " + path);
+    EXPECT_FALSE(Changed(*opened));
+    EXPECT_EQ(RecentShown(), QStringList{path});  // listed once, by Save As
+}
+
+TEST_F(FileCommandsTest, AFourLineFileOpensWithEmptyElevationsInAReusedSlot) {
+    // Slot 1 last held rows of another curve.
+    frmCrestCurve& first = NewCurve();
+    Main().Slots().Elevations(1).rows[0] = {"1", "2", "3"};
+    Main().Slots().Elevations(1).txtVOffset = "4";
+    Close(first);
+
+    const QByteArray fourLines =
+        "\"\",\"English\",,,,\"45.5\"\r\n\"100\",\"12\",\"-1.5\",\"2\",\"400\",\"\",\"\"\r\n"
+        "\"\",\"\",\"\",\"\",\"\",\"\"\r\n#TRUE#,#FALSE#,\"\",\"\"\r\n";
+    PutBytes(FilePath("four.gwf"), fourLines);
+    frmCrestCurve* opened = Open(FilePath("four.gwf"));
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(opened->Slot(), 1);
+    EXPECT_EQ(opened->Field("txtPVISTA")->text(), "12");
+    EXPECT_EQ(opened->Field("txtPVISTAM")->text(), "45.5");
+    EXPECT_EQ(opened->Field("txtG2")->text(), "-1.5");
+    EXPECT_EQ(opened->UnitSystem(), "English");
+    const ElevationTable& rows = Main().Slots().Elevations(1);
+    EXPECT_EQ(rows.rows[0].txtTOTSTA1, "");
+    EXPECT_EQ(rows.txtVOffset, "");
+    // Saved again unchanged, it is the full eight-line image.
+    Save();
+    EXPECT_TRUE(Bytes(FilePath("four.gwf")).startsWith(fourLines));
+    EXPECT_EQ(Bytes(FilePath("four.gwf")).count("\r\n"), 8);
+}
+
+TEST_F(FileCommandsTest, UnknownUnitsKeepTheNewWindowsTitleAndShowAsStored) {
+    PutBytes(FilePath("odd.gwf"), "\"\",\"Imperial\",,,,\"7\"\r\n");
+    frmCrestCurve* opened = Open(FilePath("odd.gwf"));
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(Title(*opened), "Vertical Curve");
+    EXPECT_EQ(opened->UnitSystem(), "Imperial");
+    EXPECT_EQ(opened->Field("txtPVISTAM")->text(), "7");
+    // A short file gives both options off, and nothing stored was cleared by a click.
+    EXPECT_FALSE(opened->findChild<QRadioButton*>("optPVI")->isChecked());
+    EXPECT_FALSE(opened->findChild<QRadioButton*>("optPVCPVT")->isChecked());
+}
+
+TEST_F(FileCommandsTest, TheSameFileOpensTwiceInTwoWindows) {
+    NewCurve();
+    SaveAs(FilePath("twice.gwf"));
+    frmCrestCurve* a = Open(FilePath("twice.gwf"));
+    frmCrestCurve* b = Open(FilePath("twice.gwf"));
+    ASSERT_TRUE(a && b);
+    EXPECT_NE(a->Slot(), b->Slot());
+    EXPECT_EQ(Main().MdiArea().subWindowList().size(), 3);
+    EXPECT_EQ(RecentShown(), QStringList{FilePath("twice.gwf")});
+}
+
+// Writes past this many bytes fail, as on a full disk.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        getrlimit(RLIMIT_FSIZE, &m_saved);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit = m_saved;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_saved);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_saved{};
+    void (*m_handler)(int) = nullptr;
+};
+
+struct FailedSaveCase {
+    const char* name;
+    bool titled;
+    const char* titleAfter;  // with %1 for the path
+};
+
+void PrintTo(const FailedSaveCase& c, std::ostream* os) { *os << c.name; }
+
+class FailedSaveTest : public FileCommandsTest, public ::testing::WithParamInterface<FailedSaveCase> {};
+
+TEST_P(FailedSaveTest, KeepsThePreviousFileAndReportsOnce) {
+    const QString path = FilePath("kept.gwf");
+    const QByteArray previous = "previous content";
+    frmCrestCurve& w = NewCurve();
+    if (GetParam().titled) SaveAs(path);
+    PutBytes(path, previous);
+    TypeInto(w.Field("txtPVIEval"), "123");
+    if (!GetParam().titled) m_platform.AnswerSaveFile(path);
+    m_platform.AnswerMessage(MessageButton::Ok);
+    {
+        FileSizeLimit limit(32);
+        Save();
+    }
+    EXPECT_EQ(Bytes(path), previous);
+    EXPECT_EQ(QDir(FilePath("")).entryList(QDir::Files | QDir::Hidden), QStringList{"kept.gwf"});
+    ASSERT_EQ(m_platform.Messages().size(), 1u);
+    const MessageRequest& box = m_platform.Messages().front();
+    EXPECT_EQ(box.text, QString::fromLocal8Bit(std::strerror(EFBIG)));
+    EXPECT_EQ(box.icon, MessageIcon::Exclamation);
+    EXPECT_EQ(box.title, "Gradewise");
+    EXPECT_EQ(box.buttons, MessageButtons::Ok);
+    EXPECT_EQ(m_platform.MessagesUnderBusyPointer(), 0);
+    EXPECT_EQ(Title(w), QString::fromLatin1(GetParam().titleAfter).arg(path));
+    EXPECT_TRUE(Changed(w));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Windows, FailedSaveTest,
+    ::testing::Values(FailedSaveCase{"Titled", true, "Vertical Curve - Metric: %1"},
+                      // The title takes the chosen path before the write.
+                      FailedSaveCase{"Untitled", false, "Vertical Curve - Metric:  %1"}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(FileCommandsTest, SaveAsIntoAMissingFolderStillTitlesAndListsThePath) {
+    frmCrestCurve& w = NewCurve();
+    TypeInto(w.Field("txtLC"), "5");
+    const QString path = FilePath("gone/c.gwf");
+    m_platform.AnswerMessage(MessageButton::Ok);
+    SaveAs(path);
+    EXPECT_EQ(m_platform.Messages().size(), 1u);
+    EXPECT_EQ(m_platform.Messages().front().icon, MessageIcon::Exclamation);
+    EXPECT_FALSE(m_platform.Messages().front().text.isEmpty());
+    EXPECT_EQ(Title(w), "Vertical Curve - Metric: " + path);
+    EXPECT_EQ(RecentShown(), QStringList{path});
+    EXPECT_TRUE(Changed(w));
+}
+
+}  // namespace
+}  // namespace gw::test
