@@ -21,34 +21,48 @@ constexpr double kBeamSquared = 12.25;
 
 }  // namespace
 
-void ApplySightDistance(CurveSheet& sheet) {
-    const double L = ReadNumber(sheet.txtLC);
-    const double G1 = ReadNumber(sheet.txtG1);
-    const double G2 = ReadNumber(sheet.txtG2);
+SightDistance ComputeSightDistance(double L, double G1, double G2, bool metric) {
     const double A = std::fabs(G1 - G2);
-    const Constants& k = sheet.IsMetric() ? kMetric : kEnglish;
+    const Constants& k = metric ? kMetric : kEnglish;
 
-    double S = 0;
+    SightDistance sd;
+    sd.governing = SightCase::WithinCurve;
+    double& S = sd.distance;
     if (G1 > G2) {
-        sheet.lblSDL = "SSD";
+        sd.kind = "SSD";
         S = std::sqrt(L * k.crest / A);
-        if (!(S <= L)) S = k.halfCrest / A + L / 2;
+        if (!(S <= L)) {
+            S = k.halfCrest / A + L / 2;
+            sd.governing = SightCase::BeyondCurve;
+        }
     } else if (G2 > G1) {
-        sheet.lblSDL = "HSD";
+        sd.kind = "HSD";
         S = (kBeam * L + std::sqrt(kBeamSquared * L * L + k.fourH * A * L)) / (2 * A);
         if (!(S <= L)) {
             const double divisor = 2 * A - kBeam;
             // With A of 1.75 % or less the headlight beam never meets the road beyond
             // the curve: the distance is unlimited, and we show no number for it.
             S = divisor > 0 ? (A * L + k.headlight) / divisor : NAN;
+            sd.governing = SightCase::BeyondCurve;
         }
     } else {
-        return;
+        return SightDistance{};
     }
     // A negative length of curve has no sight distance; show none rather than a
     // number from the wrong formula.
-    if (L < 0) S = NAN;
-    sheet.txtSD = FormatNumber(S);  // empty when S is not finite
+    if (L < 0) {
+        S = NAN;
+        sd.governing = SightCase::None;
+    }
+    return sd;
+}
+
+void ApplySightDistance(CurveSheet& sheet) {
+    const SightDistance sd = ComputeSightDistance(ReadNumber(sheet.txtLC), ReadNumber(sheet.txtG1),
+                                                  ReadNumber(sheet.txtG2), sheet.IsMetric());
+    if (sd.kind.empty()) return;
+    sheet.lblSDL = std::string(sd.kind);
+    sheet.txtSD = FormatNumber(sd.distance);  // empty when S is not finite
 }
 
 }  // namespace gw

@@ -1,0 +1,111 @@
+#include "core/curve_geometry.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "core/curve_solver.h"
+#include "sheet_builders.h"
+
+namespace gw {
+namespace {
+
+CurveGeometry Curve(double pvc, double elevation, double length, double g1, double g2, bool metric = false) {
+    CurveGeometry c;
+    c.pvc = pvc;
+    c.pvcElevation = elevation;
+    c.length = length;
+    c.g1 = g1;
+    c.g2 = g2;
+    c.metric = metric;
+    return c;
+}
+
+TEST(CurveGeometryTest, GradeAndElevationAlongACrest) {
+    // PVC 10+00 at 100.0, +2 % to -2 % over 400 ft: grade 2 - 4 x / 400,
+    // elevation 100 + 0.02 x - (0.04 / 800) x^2.
+    const CurveGeometry c = Curve(1000, 100, 400, 2, -2);
+    struct Case {
+        double x, grade, elevation;
+    } cases[] = {
+        {0, 2, 100}, {100, 1, 101.5}, {200, 0, 102}, {300, -1, 101.5}, {400, -2, 100},
+    };
+    for (const Case& k : cases) {
+        EXPECT_NEAR(c.GradeAt(k.x), k.grade, 1e-12) << k.x;
+        EXPECT_NEAR(c.ElevationAt(k.x), k.elevation, 1e-12) << k.x;
+    }
+    EXPECT_DOUBLE_EQ(c.pviElevation(), 104);  // 100 + 0.02 * 200
+    EXPECT_DOUBLE_EQ(*c.RateOfCurvature(), 100);  // 400 / 4
+}
+
+TEST(CurveGeometryTest, TurningPointWhereTheSolverPutsIt) {
+    struct Case {
+        double g1, g2;
+        std::optional<double> x;
+    } cases[] = {
+        {2, -2, 200},     // -g1 L / (g2 - g1) = -2 * 400 / -4
+        {-2, 3, 160},     // 2 * 400 / 5
+        {0, -2, 0},       // at the PVC
+        {2, 0, 400},      // at the PVT
+        {3, 1, {}},       // both rising
+        {-1, -4, {}},     // both falling
+        {0, 0, {}},       // no change of grade
+    };
+    for (const Case& k : cases) {
+        const auto tp = Curve(1000, 100, 400, k.g1, k.g2).TurningPoint();
+        ASSERT_EQ(tp.has_value(), k.x.has_value()) << k.g1 << " " << k.g2;
+        if (tp) {
+            EXPECT_NEAR(*tp, *k.x, 1e-12) << k.g1 << " " << k.g2;
+        }
+    }
+    EXPECT_FALSE(Curve(1000, 100, 400, 0, 0).RateOfCurvature());
+}
+
+TEST(CurveGeometryTest, ReadsTheSolvedSheet) {
+    // Metric sag from its ends: PVC 1+900 at 250, PVT 2+100 at 251, -2 %: G2 = 3 %.
+    CurveSheet s = test::EndsSheet("Metric", "1", "900", "250", "2", "100", "251", "-2");
+    ASSERT_FALSE(Calculate(s));
+    const CurveGeometry c = ReadCurveGeometry(s);
+    EXPECT_EQ(c.pvc, 1900);
+    EXPECT_EQ(c.length, 200);
+    EXPECT_TRUE(c.metric);
+    // x = 2 * 200 / 5 = 80; 250 - 0.02 * 80 + (0.05 / 400) * 80^2 = 249.2
+    EXPECT_NEAR(*c.TurningPoint(), 80, 1e-9);
+    EXPECT_NEAR(c.ElevationAt(80), 249.2, 1e-9);
+    EXPECT_NEAR(*c.RateOfCurvature(), 40, 1e-9);  // 200 / 5
+}
+
+TEST(CurveGeometryTest, SightDistanceCaseThatGoverned) {
+    struct Case {
+        double length, g1, g2;
+        SightCase governing;
+        bool finite;
+    } cases[] = {
+        {400, 2, -2, SightCase::WithinCurve, true},   // sqrt(400 * 1329 / 4) = 364.6 <= 400
+        {100, 2, -2, SightCase::BeyondCurve, true},   // sqrt(100 * 1329 / 4) = 182.3 > 100
+        {300, -3, 2, SightCase::WithinCurve, true},   // sag, S = 292.1 <= 300
+        {100, -1, 2, SightCase::BeyondCurve, true},   // sag, S = 280 > 100
+        {800, -1, 0.5, SightCase::BeyondCurve, false},  // A = 1.5 <= 1.75: unlimited
+        {400, 1, 1, SightCase::None, true},
+    };
+    for (const Case& k : cases) {
+        const SightDistance sd = Curve(0, 0, k.length, k.g1, k.g2).Sight();
+        EXPECT_EQ(sd.governing, k.governing) << k.length << " " << k.g1 << " " << k.g2;
+        EXPECT_EQ(std::isfinite(sd.distance), k.finite) << k.length << " " << k.g1 << " " << k.g2;
+    }
+}
+
+TEST(CurveGeometryTest, StationTextPadsThePlusPart) {
+    struct Case {
+        double value;
+        bool metric;
+        const char* text;
+    } cases[] = {
+        {1000, false, "10+00.0"}, {1050.5, false, "10+50.5"}, {5, false, "0+05.0"},  {1900, true, "1+900.0"},
+        {2050, true, "2+050.0"},  {-25, false, "-0+25.0"},    {-1010, true, "-1+010.0"},
+    };
+    for (const Case& c : cases) EXPECT_EQ(StationText(c.value, c.metric), c.text) << c.value;
+}
+
+}  // namespace
+}  // namespace gw
