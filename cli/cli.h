@@ -10,6 +10,7 @@ enum ExitCode {
     kRefused = 1,       // a check refused the calculation
     kUsage = 2,         // bad arguments or an unreadable file
     kStationOffCurve = 3,  // Calculate TOS stopped at a station outside the curve
+    kTooShort = 4,         // check: the curve is shorter than the design speed needs
 };
 
 int Run(int argc, char** argv, std::ostream& out, std::ostream& err);

@@ -1,10 +1,14 @@
 #include "text_output.h"
 
+#include <cmath>
 #include <ctime>
 #include <iomanip>
 #include <locale>
+#include <optional>
 #include <sstream>
 
+#include "core/curve_geometry.h"
+#include "core/numbers.h"
 #include "core/report.h"
 
 namespace gw::cli {
@@ -42,6 +46,18 @@ void JsonString(std::ostringstream& out, std::string_view text) {
     out << '"';
 }
 
+std::string OptionalNumber(const std::optional<double>& value) {
+    return value ? FormatNumber(*value) : std::string();
+}
+
+std::string_view CaseText(SightCase c) {
+    switch (c) {
+        case SightCase::WithinCurve: return "S<L";
+        case SightCase::BeyondCurve: return "S>L";
+        default: return "";
+    }
+}
+
 std::string LocalTimeText(const char* format) {
     std::time_t now = std::time(nullptr);
     std::tm local{};
@@ -73,6 +89,12 @@ std::string ToUtf8(std::string_view bytes) {
         }
     }
     return out;
+}
+
+std::string ShortNumber(double value) {
+    std::string text = FormatNumber(value);
+    if (text.size() > 2 && text.compare(text.size() - 2, 2, ".0") == 0) text.resize(text.size() - 2);
+    return text;
 }
 
 std::string CurveJson(const CurveSheet& s) {
@@ -117,6 +139,22 @@ std::string CurveJson(const CurveSheet& s) {
     }
     key("changed");
     out << (s.changed ? "true" : "false");
+
+    // Read off the solved curve; none of these is a field of the curve window.
+    const CurveGeometry curve = ReadCurveGeometry(s);
+    const SightDistance sight = curve.Sight();
+    key("K");
+    JsonString(out, OptionalNumber(curve.RateOfCurvature()));
+    key("turningPointElevation");
+    const auto tp = curve.TurningPoint();
+    JsonString(out, tp ? FormatNumber(curve.ElevationAt(*tp)) : std::string());
+    key("sightDistanceCase");
+    JsonString(out, CaseText(sight.governing));
+    key("sightDistance");
+    const bool unlimited =
+        sight.kind == "HSD" && sight.governing == SightCase::BeyondCurve && !std::isfinite(sight.distance);
+    JsonString(out, unlimited ? "unlimited: with A of 1.75 % or less the headlight beam never meets the road"
+                              : std::string_view(s.txtSD));
     out << "\n}\n";
     return out.str();
 }

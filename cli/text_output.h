@@ -12,6 +12,9 @@ namespace gw::cli {
 // through, any other byte is taken as Latin-1.
 std::string ToUtf8(std::string_view bytes);
 
+// The number format without a trailing ".0": "100", "102.5", "0.25".
+std::string ShortNumber(double value);
+
 std::string CurveJson(const CurveSheet& sheet);
 
 // The report of one copy, LF line ends, dated now in the user's locale.

@@ -1,0 +1,22 @@
+#pragma once
+// The profile of a solved curve as an SVG drawing for a design memo.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/curve_sheet.h"
+
+namespace gw::cli {
+
+struct ProfilePoint {
+    double station;
+    double elevation;
+};
+
+// Tangents and parabola to scale (with a stated vertical exaggeration), PVC, PVI, PVT
+// and turning point labelled with station and elevation, `rows` as points, grades and
+// length annotated. The curve must have a positive length.
+std::string ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title);
+
+}  // namespace gw::cli

@@ -1,0 +1,33 @@
+#pragma once
+// Just enough SVG for a drawing: shapes and text in a fixed style vocabulary.
+
+#include <string>
+#include <string_view>
+
+namespace gw::cli {
+
+class SvgWriter {
+public:
+    SvgWriter(double width, double height);
+
+    // `style` is a raw attribute list, e.g. R"(stroke="#000" stroke-width="1")".
+    void Line(double x1, double y1, double x2, double y2, std::string_view style);
+    void Rect(double x, double y, double w, double h, std::string_view style);
+    void Circle(double cx, double cy, double r, std::string_view style);
+    void Path(std::string_view d, std::string_view style);
+    // Text is escaped here; `rotate` turns it about its anchor point, in degrees.
+    void Text(double x, double y, std::string_view text, std::string_view style, double rotate = 0);
+    void Raw(std::string_view markup);
+
+    std::string Finish();
+
+    // A coordinate as attribute text: two decimals at most, locale-independent.
+    static std::string Num(double value);
+
+private:
+    std::string m_body;
+};
+
+std::string EscapeXml(std::string_view text);
+
+}  // namespace gw::cli
