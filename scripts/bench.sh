@@ -12,4 +12,7 @@ echo "== Whole process: gradewise-cli against a C++ program that does nothing"
 hyperfine -N --warmup 20 --runs 300 \
   build/bench/bench/gw_empty_program \
   "build/bench/cli/gradewise-cli solve examples/english-crest.gwf" \
-  "build/bench/cli/gradewise-cli solve --elevations --json examples/english-crest.gwf"
+  "build/bench/cli/gradewise-cli solve --elevations --json examples/english-crest.gwf" \
+  "build/bench/cli/gradewise-cli table examples/english-crest.gwf --every 0+50" \
+  "build/bench/cli/gradewise-cli plot examples/english-crest.gwf" \
+  "build/bench/cli/gradewise-cli check examples/english-crest.gwf --speed 50"
