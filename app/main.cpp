@@ -18,7 +18,7 @@ int main(int argc, char* argv[]) {
     gw::frmMain mainWindow(platform);
     QObject::connect(&mainWindow, &gw::frmMain::programEnded, &app, &QCoreApplication::quit,
                      Qt::QueuedConnection);
-    mainWindow.MDIForm_Load();
+    if (!mainWindow.MDIForm_Load()) return 1;
 
     // For the start-up benchmark: leave as soon as the shown window has gone idle.
     if (qEnvironmentVariableIsSet("GRADEWISE_QUIT_WHEN_IDLE")) {

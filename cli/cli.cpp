@@ -1,10 +1,14 @@
 #include "cli.h"
 
+#include <cerrno>
+#include <cstdlib>
 #include <optional>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <string>
 #include <vector>
 
-#include "cli/design_commands.h"
 #include "cli/text_output.h"
 #include "core/auto_stationing.h"
 #include "core/curve_file.h"
@@ -15,6 +19,8 @@
 
 #define GW_STR2(x) #x
 #define GW_STR(x) GW_STR2(x)
+
+extern char** environ;
 
 namespace gw::cli {
 namespace {
@@ -27,10 +33,7 @@ constexpr const char* kHelp =
     "  gradewise-cli solve FILE [--elevations] [--json] [-o OUT]\n"
     "  gradewise-cli autostation FILE (--points N | --begin WHOLE+PLUS --increment WHOLE+PLUS)\n"
     "                             [--json] [-o OUT]\n"
-    "  gradewise-cli report FILE\n"
-    "  gradewise-cli table FILE --every WHOLE+PLUS [--csv] [-o OUT]\n"
-    "  gradewise-cli plot FILE [-o OUT.svg]\n"
-    "  gradewise-cli check FILE --speed V\n"
+    "  gradewise-cli report FILE [--pdf OUT.pdf [--copies N]]\n"
     "  gradewise-cli --version\n"
     "  gradewise-cli --help\n"
     "\n"
@@ -41,22 +44,15 @@ constexpr const char* kHelp =
     "  autostation    solve, then lay out the elevation rows by a number of points from\n"
     "                 PVC to PVT (--points, at most 20) or from a beginning station in\n"
     "                 steps of an increment (--begin 10+0 --increment 0+50)\n"
-    "  report         print the lines of the curve report\n"
-    "\n"
-    "  table          station, distance, grade and elevation from PVC to PVT at\n"
-    "                 every even station of an interval (--every 0+50)\n"
-    "  plot           draw the profile of the curve as SVG\n"
-    "  check          compare the length of curve with the minimum for a design speed\n"
-    "                 (exit status 4 when it is too short)\n"
-    "  COMMAND --help tells more about table, plot and check\n"
+    "  report         print the lines of the curve report; with --pdf, write the\n"
+    "                 printed pages (N copies, one page each, default 1) to a PDF file\n"
     "\n"
     "  --json         write the curve as one JSON object instead of a curve file\n"
     "  -o OUT         write to OUT instead of standard output\n"
     "\n"
     "Exit status: 0 done; 1 a check refused the calculation (its message on stderr);\n"
     "2 bad arguments or an unreadable file; 3 an elevation station lies outside the\n"
-    "curve (the curve as far as it was computed is still written); 4 check found\n"
-    "the curve too short for the design speed.\n";
+    "curve (the curve as far as it was computed is still written).\n";
 
 struct Options {
     std::string command;
@@ -67,6 +63,8 @@ struct Options {
     std::optional<std::string> points;
     std::optional<std::string> begin;
     std::optional<std::string> increment;
+    std::optional<std::string> pdf;
+    std::optional<std::string> copies;
 };
 
 struct UsageError {
@@ -108,6 +106,10 @@ Options Parse(const std::vector<std::string>& args) {
             o.begin = value(i);
         } else if (a == "--increment" && o.command == "autostation") {
             o.increment = value(i);
+        } else if (a == "--pdf" && o.command == "report") {
+            o.pdf = value(i);
+        } else if (a == "--copies" && o.command == "report") {
+            o.copies = value(i);
         } else if (!a.empty() && a[0] == '-' && a != "-") {
             throw UsageError{"unknown option '" + a + "' for " + o.command};
         } else if (o.file.empty()) {
@@ -117,6 +119,7 @@ Options Parse(const std::vector<std::string>& args) {
         }
     }
     if (o.file.empty()) throw UsageError{o.command + " needs a curve FILE"};
+    if (o.copies && !o.pdf) throw UsageError{"--copies goes with --pdf"};
     if (o.command == "autostation") {
         const bool spacing = o.begin || o.increment;
         if (o.points && spacing) throw UsageError{"give either --points or --begin with --increment, not both"};
@@ -125,6 +128,44 @@ Options Parse(const std::vector<std::string>& args) {
         }
     }
     return o;
+}
+
+// The number of copies the print dialog would be given: a whole number from 0 to 99.
+int Copies(const Options& o) {
+    if (!o.copies) return 1;
+    const std::string& text = *o.copies;
+    if (text.empty() || text.size() > 2 || text.find_first_not_of("0123456789") != std::string::npos) {
+        throw UsageError{"--copies takes a whole number from 0 to 99"};
+    }
+    return std::stoi(text);
+}
+
+// gradewise-pdf beside this program (or where GRADEWISE_PDF says), run to the end.
+int RunPdfHelper(const std::string& file, const std::string& out, int copies, std::ostream& err) {
+    std::string helper;
+    if (const char* env = std::getenv("GRADEWISE_PDF"); env && *env) {
+        helper = env;
+    } else {
+        char self[4096];
+        const ssize_t n = ::readlink("/proc/self/exe", self, sizeof self - 1);
+        if (n > 0) {
+            std::string dir(self, static_cast<size_t>(n));
+            helper = dir.substr(0, dir.rfind('/') + 1) + "gradewise-pdf";
+        }
+    }
+    const std::string copiesText = std::to_string(copies);
+    std::vector<char*> argv = {const_cast<char*>(helper.c_str()), const_cast<char*>(file.c_str()),
+                               const_cast<char*>(out.c_str()), const_cast<char*>(copiesText.c_str()), nullptr};
+    err.flush();
+    pid_t pid = 0;
+    if (helper.empty() || ::posix_spawn(&pid, helper.c_str(), nullptr, nullptr, argv.data(), environ) != 0) {
+        err << "gradewise-cli: PDF output needs gradewise-pdf, which was not found beside gradewise-cli\n";
+        return kUsage;
+    }
+    int status = 0;
+    while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
+    }
+    return WIFEXITED(status) ? WEXITSTATUS(status) : kUsage;
 }
 
 // The auto-stationing dialog answered as the user would have filled it in.
@@ -152,8 +193,11 @@ int Execute(const Options& o, std::ostream& out, std::ostream& err) {
     }
     CurveSheet sheet = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
     if (o.command == "report") {
-        out << ReportText(sheet);
-        return kDone;
+        if (!o.pdf) {
+            out << ReportText(sheet);
+            return kDone;
+        }
+        return RunPdfHelper(o.file, *o.pdf, Copies(o), err);
     }
 
     if (Outcome refused = Calculate(sheet)) {
@@ -206,7 +250,6 @@ int Run(int argc, char** argv, std::ostream& out, std::ostream& err) {
         out << kVersion << "\n";
         return kDone;
     }
-    if (std::optional<int> status = RunDesignCommand(args, out, err)) return *status;
     for (const std::string& a : args) {
         if (a == "--help" || a == "-h") {
             out << kHelp;

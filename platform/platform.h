@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "files/settings_store.h"
+#include "print/line_printer.h"
 
 class QDialog;
 class QWidget;
@@ -51,17 +52,6 @@ struct FileDialogRequest {
 // Where the per-user settings live: "Gradewise" in the platform's per-user
 // configuration folder.
 QString UserSettingsPath();
-
-// One print job, line by line, in the order the report is laid out.
-class LinePrinter {
-public:
-    virtual ~LinePrinter() = default;
-    virtual void SetFont(const QString& family, double pointSize) = 0;
-    virtual void PrintLine(const QString& text) = 0;
-    virtual void NewPage() = 0;
-    // Ends the job; false when the printer reported a failure.
-    virtual bool EndDoc() = 0;
-};
 
 class Platform {
 public:

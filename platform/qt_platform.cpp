@@ -5,10 +5,11 @@
 #include <QDialog>
 #include <QFileDialog>
 #include <QMessageBox>
-#include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QUrl>
+
+#include "print/page_printer.h"
 
 namespace gw {
 namespace {
@@ -32,46 +33,6 @@ QMessageBox::Icon ToQt(MessageIcon icon) {
     }
     return QMessageBox::NoIcon;
 }
-
-class QtLinePrinter final : public LinePrinter {
-public:
-    QtLinePrinter(QPrinter& printer, const QString& documentName) : m_printer(printer) {
-        m_printer.setDocName(documentName);
-        m_ok = m_painter.begin(&m_printer);
-    }
-    ~QtLinePrinter() override {
-        if (m_painter.isActive()) m_painter.end();
-    }
-
-    void SetFont(const QString& family, double pointSize) override {
-        if (!m_ok) return;
-        QFont font(family);
-        font.setPointSizeF(pointSize);
-        m_painter.setFont(font);
-    }
-    void PrintLine(const QString& text) override {
-        if (!m_ok) return;
-        const QFontMetrics metrics(m_painter.font(), &m_printer);
-        m_y += metrics.ascent();
-        m_painter.drawText(0, m_y, text);
-        m_y += metrics.descent() + metrics.leading();
-    }
-    void NewPage() override {
-        if (!m_ok) return;
-        m_ok = m_printer.newPage();
-        m_y = 0;
-    }
-    bool EndDoc() override {
-        if (m_painter.isActive()) m_ok = m_painter.end() && m_ok;
-        return m_ok;
-    }
-
-private:
-    QPrinter& m_printer;
-    QPainter m_painter;
-    int m_y = 0;
-    bool m_ok = false;
-};
 
 // A Qt name filter that shows `description` alone and filters by `pattern`; "*.*"
 // means every file, which on this platform is "*" (names need not hold a dot).
@@ -145,6 +106,13 @@ std::optional<int> QtPlatform::ShowPrintDialog(QWidget* owner, int copies) {
     QPrinter& printer = Printer();
     printer.setCopyCount(copies);
     QPrintDialog dialog(&printer, owner);
+    // One page, no selection or page choices, and no printing to a file.
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, false);
+    dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
+    dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+    dialog.setMinMax(1, 1);
+    printer.setFromTo(1, 1);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     // The report prints each copy itself, so the printer must not repeat it.
     const int chosen = printer.copyCount();
@@ -153,7 +121,8 @@ std::optional<int> QtPlatform::ShowPrintDialog(QWidget* owner, int copies) {
 }
 
 std::unique_ptr<LinePrinter> QtPlatform::StartPrintJob(const QString& documentName) {
-    return std::make_unique<QtLinePrinter>(Printer(), documentName);
+    Printer().setDocName(documentName);
+    return std::make_unique<PagePrinter>(Printer());
 }
 
 void QtPlatform::SetBusyCursor(bool busy) {

@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -12,6 +14,8 @@
 #include "files/commands/file_commands.h"
 #include "files/commands/recent_files_menu.h"
 #include "platform/platform.h"
+#include "display_check.h"
+#include "placement.h"
 #include "status_bar.h"
 #include "ui/curve/curve_window.h"
 #include "window_arrangement.h"
@@ -19,6 +23,8 @@
 
 namespace gw {
 namespace {
+
+const char* const kSmallFontOnly = "Must use Windows Small Font to run Gradewise.";
 
 const char* const kHomePage = "https://gradewise.org/";
 
@@ -52,13 +58,30 @@ void frmMain::ConnectMenus() {
     connect(m_menus.mnuWindowTileVertical, &QAction::triggered, this, &frmMain::mnuWindowTileVertical_Click);
     connect(m_menus.mnuWindowArrangeIcons, &QAction::triggered, this, &frmMain::mnuWindowArrangeIcons_Click);
     connect(m_menus.mnuGradewise_web, &QAction::triggered, this, &frmMain::mnuGradewise_web_Click);
+    connect(m_menus.mnuFilePrint, &QAction::triggered, this, &frmMain::mnuFilePrint_Click);
+    connect(m_menus.mnuHelpAbout, &QAction::triggered, this, &frmMain::mnuHelpAbout_Click);
     connect(m_menus.mnuWindow, &QMenu::aboutToShow, this, [this] { RefreshWindowList(*m_menus.mnuWindow, *m_mdi); });
 }
 
-void frmMain::MDIForm_Load() {
+bool frmMain::MDIForm_Load() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (!screen || !IsSmallFontDisplay(LogicalPixelsPerInch(*screen))) {
+        ShowRefusal(m_platform, nullptr, QString::fromLatin1(kSmallFontOnly));
+        return false;
+    }
     show();
     QDir::setCurrent(QCoreApplication::applicationDirPath());
+    RestorePlacement();
     m_recent->UpdateRecentFileMenu();
+    return true;
+}
+
+void frmMain::RestorePlacement() {
+    const QRect frame = PlacementToPixels(ReadPlacement(m_platform.Settings()));
+    // The stored size is the frame's; what Qt resizes is the inside.
+    const QSize border = frameGeometry().size() - size();
+    move(frame.topLeft());
+    resize(frame.size() - border);
 }
 
 frmCrestCurve* frmMain::ActiveCurveWindow() const {
@@ -83,6 +106,8 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::MDIForm_Unload() {
+    // A minimised frame keeps the place it had on the previous run.
+    if (!isMinimized()) StorePlacement(m_platform.Settings(), PlacementFromPixels(frameGeometry()));
     if (!m_slots.AnyCurveWindowOpen()) emit programEnded();
 }
 

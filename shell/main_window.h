@@ -28,7 +28,8 @@ public:
     ~frmMain() override;
 
     // Start-up: shows the frame and makes the program's folder the current folder.
-    void MDIForm_Load();
+    // False when the display check refuses the screen: the program must end.
+    bool MDIForm_Load();
 
     WindowSlots& Slots() { return m_slots; }
     QMdiArea& MdiArea() { return *m_mdi; }
@@ -55,6 +56,8 @@ public:
     void mnuWindowTileVertical_Click();
     void mnuWindowArrangeIcons_Click();
     void mnuGradewise_web_Click();
+    void mnuFilePrint_Click();
+    void mnuHelpAbout_Click();
 
 signals:
     // Every curve window has closed with the frame: the program ends.
@@ -68,6 +71,7 @@ private:
     void ConnectFileMenu();
     QMdiSubWindow* AddCurveWindow(frmCrestCurve* window);
     void MDIForm_Unload();
+    void RestorePlacement();
 
     Platform& m_platform;
     WindowSlots m_slots;

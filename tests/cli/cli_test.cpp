@@ -188,6 +188,31 @@ TEST_F(CliTest, ReportPrintsOneCopyWithLfEnds) {
     EXPECT_NE(r.out.find("\nElevation at Station: 13+50  =  101.135\n"), std::string::npos);
 }
 
+// The printed pages as a PDF: one page per copy, read back by a PDF reader.
+TEST_F(CliTest, ReportPdfHasOnePagePerCopy) {
+    ::setenv("GRADEWISE_PDF", GW_PDF_PATH, 1);
+    const std::string pdf = (dir_ / "report.pdf").string();
+    Result r = RunCli({"report", Example("metric-sag.gwf"), "--pdf", pdf, "--copies", "3"});
+    ASSERT_EQ(r.status, kDone) << r.err;
+    auto run = [](const std::string& command) {
+        std::string out;
+        FILE* p = ::popen(command.c_str(), "r");
+        char buf[4096];
+        for (size_t n; (n = std::fread(buf, 1, sizeof buf, p)) > 0;) out.append(buf, n);
+        ::pclose(p);
+        return out;
+    };
+    EXPECT_NE(run("pdfinfo " + pdf).find("Pages:           3"), std::string::npos);
+    const std::string text = run("pdftotext " + pdf + " -");
+    EXPECT_NE(text.find("PVC Values"), std::string::npos);
+    EXPECT_NE(text.find("HSD 168.4886"), std::string::npos);  // blanks are rebuilt by the reader
+
+    EXPECT_EQ(RunCli({"report", Example("metric-sag.gwf"), "--pdf", pdf, "--copies", "x"}).status, kUsage);
+    EXPECT_EQ(RunCli({"report", Example("metric-sag.gwf"), "--copies", "2"}).status, kUsage);
+    Result unwritable = RunCli({"report", Example("metric-sag.gwf"), "--pdf", (dir_ / "no" / "r.pdf").string()});
+    EXPECT_EQ(unwritable.status, kUsage);
+}
+
 TEST_F(CliTest, BothExamplesSolveWithTheirElevations) {
     for (const char* name : {"english-crest.gwf", "metric-sag.gwf"}) {
         Result r = RunCli({"solve", "--elevations", Example(name)});

@@ -1,0 +1,74 @@
+#include "about_box.h"
+
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+
+#include "app_icon.h"
+
+namespace gw {
+namespace {
+
+// Twips, as the box is laid out, to pixels at 96 pixels per inch.
+constexpr int Px(int twips) { return twips / 15; }
+
+QRect Twips(int left, int top, int width, int height) {
+    return QRect(Px(left), Px(top), Px(width), Px(height));
+}
+
+const char* const kDescription = "Description: Calculate highway curve information.";
+const char* const kAuthor = "Written by the Gradewise developers.";
+const char* const kDisclaimer =
+    "Gradewise is a calculator, not a design.\n\n"
+    "Every station, elevation, grade, sight distance and elevation it shows must be "
+    "checked by a qualified engineer before it is used on a road. The program is provided "
+    "as it is, without warranty of any kind; its authors accept no liability for designs "
+    "made with it.\n\n"
+    "The sight distances use the stopping and headlight sight distance formulas with "
+    "the eye, object and headlight constants shown in the program; check them against the "
+    "design policy that governs your project.";
+
+}  // namespace
+
+QString frmAbout::VersionLine() {
+    return QStringLiteral("Version %1.%2.%3").arg(GW_VERSION_MAJOR).arg(GW_VERSION_MINOR).arg(GW_VERSION_REVISION);
+}
+
+frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
+    setObjectName(QStringLiteral("frmAbout"));
+    setWindowTitle(QStringLiteral("About Gradewise"));
+    setFixedSize(Px(5820), Px(3795));
+    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    setAttribute(Qt::WA_DeleteOnClose);
+
+    auto* ok = new QPushButton(QStringLiteral("OK"), this);
+    ok->setObjectName(QStringLiteral("cmdOK"));
+    ok->setGeometry(Twips(3840, 3240, 1260, 345));
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, &QDialog::accept);  // Escape rejects: also closes
+
+    auto* icon = new QLabel(this);
+    icon->setObjectName(QStringLiteral("picIcon"));
+    icon->setGeometry(Twips(240, 240, 540, 540));
+    icon->setPixmap(AppIcon().pixmap(icon->size()));
+
+    auto label = [this](const char* name, const QString& text, QRect rect) {
+        auto* l = new QLabel(text, this);
+        l->setObjectName(QString::fromLatin1(name));
+        l->setGeometry(rect);
+        return l;
+    };
+    label("lblVersion", VersionLine(), Twips(1050, 180, 3885, 225));
+    label("lblDescription", QString::fromLatin1(kDescription), Twips(1050, 525, 3885, 330));
+    label("lblAuthor", QString::fromLatin1(kAuthor), Twips(1050, 1080, 3885, 330));
+
+    auto* disclaimer = new QPlainTextEdit(QString::fromLatin1(kDisclaimer), this);
+    disclaimer->setObjectName(QStringLiteral("txtDisclaimer"));
+    disclaimer->setGeometry(Twips(240, 1560, 5295, 1575));
+    disclaimer->setReadOnly(true);
+    disclaimer->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    disclaimer->setFocusPolicy(Qt::ClickFocus);
+    ok->setFocus();
+}
+
+}  // namespace gw

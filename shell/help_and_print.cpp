@@ -1,0 +1,26 @@
+// The Print and About entries of the main window.
+
+#include "about_box.h"
+#include "main_window.h"
+#include "platform/platform.h"
+#include "print/curve_report.h"
+#include "ui/curve/curve_window.h"
+
+namespace gw {
+
+void frmMain::mnuFilePrint_Click() {
+    frmCrestCurve* curve = m_slots.AnyCurveWindowOpen() ? ActiveCurveWindow() : nullptr;
+    if (!curve) return;
+    const CurveSheet sheet = curve->GatherSheet();
+    PrintCurveReport(m_platform, this, &sheet);
+}
+
+void frmMain::mnuHelpAbout_Click() {
+    // Created afresh each time; OK, Escape and the close box destroy it.
+    auto* about = new frmAbout(this);
+    m_platform.ShowModal(*about);
+    if (about->isHidden()) about->deleteLater();
+    activateWindow();
+}
+
+}  // namespace gw

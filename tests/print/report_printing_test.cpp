@@ -1,0 +1,150 @@
+// The report on paper: copies, pages, fonts, and the Print command's dialog rules.
+
+#include <QPdfWriter>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include "core/curve_solver.h"
+#include "tests/qt_test_printers.h"
+#include "core/report.h"
+#include "platform/scripted_platform.h"
+#include "print/curve_report.h"
+#include "print/page_printer.h"
+#include "print/report_copies.h"
+
+namespace gw {
+namespace {
+
+// Everything a printer is told, in order.
+class CallLog final : public LinePrinter {
+public:
+    void SetFont(const QString& family, double size) override { calls << QString("font %1 %2").arg(family).arg(size); }
+    void PrintLine(const QString& text) override { calls << "line " + text; }
+    void NewPage() override { calls << "page"; }
+    bool EndDoc() override {
+        calls << "end";
+        return true;
+    }
+    QStringList calls;
+};
+
+CurveSheet SolvedCurve() {
+    CurveSheet s = NewCurveSheet("Metric");
+    s.txtPVISTA = "1";
+    s.txtPVISTAM = "500";
+    s.txtPVIEval = "50";
+    s.txtG1 = "-1";
+    s.txtG2 = "1";
+    s.txtLC = "200";
+    EXPECT_FALSE(Calculate(s));
+    s.elevations.rows[0] = {"1", "450", "50.125"};
+    return s;
+}
+
+TEST(ReportCopiesTest, EachCopyStartsInArialTwelveAndEndsWithAPageBreak) {
+    CallLog log;
+    PrintReportCopies(log, {"a", "b"}, 2);
+    EXPECT_EQ(log.calls, (QStringList{"font Arial 12", "line a", "line b", "page", "font Arial 12", "line a", "line b",
+                                      "page", "end"}));
+    CallLog none;
+    PrintReportCopies(none, {"a"}, 0);
+    EXPECT_EQ(none.calls, QStringList{"end"});  // the job still ends
+}
+
+// The pages as a PDF reader sees them.
+struct PdfText {
+    int pages = 0;
+    QStringList pageTexts;
+};
+
+PdfText ReadPdf(const QString& path) {
+    PdfText out;
+    QProcess info;
+    info.start("pdfinfo", {path});
+    info.waitForFinished();
+    for (const QString& line : QString::fromUtf8(info.readAllStandardOutput()).split('\n')) {
+        if (line.startsWith("Pages:")) out.pages = line.mid(6).trimmed().toInt();
+    }
+    QProcess text;
+    text.start("pdftotext", {"-layout", path, "-"});
+    text.waitForFinished();
+    out.pageTexts = QString::fromUtf8(text.readAllStandardOutput()).split('\f', Qt::SkipEmptyParts);
+    return out;
+}
+
+TEST(PagePrinterTest, ThreeCopiesMakeThreePagesAndNoEmptyOneAfter) {
+    QTemporaryDir dir;
+    const QString path = dir.filePath("report.pdf");
+    const std::vector<std::string> lines = ReportLines(SolvedCurve(), "11/23/26", "8:00 AM");
+    {
+        QPdfWriter writer(path);
+        PagePrinter printer(writer);
+        ASSERT_TRUE(PrintReportCopies(printer, lines, 3));
+    }
+    const PdfText pdf = ReadPdf(path);
+    ASSERT_EQ(pdf.pages, 3);
+    // The PDF reader rebuilds blanks from glyph positions, so compare words.
+    for (const QString& page : pdf.pageTexts.mid(0, 3)) {
+        const QString words = page.simplified();
+        EXPECT_TRUE(words.contains("Input: (Metric) PVI Values Station: 1+500")) << words.toStdString();
+        EXPECT_TRUE(words.contains("Elevation at Station: 1+450 = 50.125"));
+        EXPECT_TRUE(words.contains("Turning Point Station: 1+500.0"));
+    }
+}
+
+class PrintCommandTest : public ::testing::Test {
+protected:
+    PrintCommandTest() {
+        platform.OnUnexpected([](const QString& what) { ADD_FAILURE() << what.toStdString(); });
+        platform.SetNow(QDateTime(QDate(2026, 11, 23), QTime(8, 5)));
+    }
+    QStringList PrintedPage(int page) const {
+        QStringList out;
+        for (const auto& line : platform.Printed()) {
+            if (line.page == page) out << line.text;
+        }
+        return out;
+    }
+    ScriptedPlatform platform;
+};
+
+TEST_F(PrintCommandTest, NoCurveShowsNoDialog) {
+    PrintCurveReport(platform, nullptr, nullptr);
+    EXPECT_TRUE(platform.Printed().empty());
+    EXPECT_EQ(platform.BusySpells(), 0);
+}
+
+TEST_F(PrintCommandTest, CancelPrintsNothingAndRestoresThePointer) {
+    const CurveSheet sheet = SolvedCurve();
+    platform.AnswerPrintDialog(std::nullopt);
+    PrintCurveReport(platform, nullptr, &sheet);
+    EXPECT_TRUE(platform.Printed().empty());
+    EXPECT_FALSE(platform.Busy());
+    EXPECT_EQ(platform.BusySpells(), 1);
+}
+
+TEST_F(PrintCommandTest, CopiesArePagesOfTheWholeReportDatedNow) {
+    const CurveSheet sheet = SolvedCurve();
+    platform.AnswerPrintDialog(3);
+    PrintCurveReport(platform, nullptr, &sheet);
+    QStringList expected;
+    const QLocale& locale = platform.Locale();
+    const QDateTime now = platform.Now();
+    for (const std::string& line : ReportLines(sheet, locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
+                                               locale.toString(now.time(), QLocale::ShortFormat).toStdString())) {
+        expected << QString::fromStdString(line);
+    }
+    EXPECT_EQ(PrintedPage(1), expected);
+    EXPECT_EQ(PrintedPage(3), expected);
+    EXPECT_TRUE(PrintedPage(4).isEmpty());
+    EXPECT_FALSE(platform.Busy());
+
+    platform.AnswerPrintDialog(0);
+    const size_t before = platform.Printed().size();
+    PrintCurveReport(platform, nullptr, &sheet);
+    EXPECT_EQ(platform.Printed().size(), before);
+}
+
+}  // namespace
+}  // namespace gw
