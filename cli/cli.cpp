@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/design_commands.h"
 #include "cli/text_output.h"
 #include "core/auto_stationing.h"
 #include "core/curve_file.h"
@@ -34,6 +35,9 @@ constexpr const char* kHelp =
     "  gradewise-cli autostation FILE (--points N | --begin WHOLE+PLUS --increment WHOLE+PLUS)\n"
     "                             [--json] [-o OUT]\n"
     "  gradewise-cli report FILE [--pdf OUT.pdf [--copies N]]\n"
+    "  gradewise-cli table FILE --every WHOLE+PLUS [--csv] [-o OUT]\n"
+    "  gradewise-cli plot FILE [-o OUT.svg]\n"
+    "  gradewise-cli check FILE --speed V\n"
     "  gradewise-cli --version\n"
     "  gradewise-cli --help\n"
     "\n"
@@ -47,12 +51,20 @@ constexpr const char* kHelp =
     "  report         print the lines of the curve report; with --pdf, write the\n"
     "                 printed pages (N copies, one page each, default 1) to a PDF file\n"
     "\n"
+    "  table          station, distance, grade and elevation from PVC to PVT at\n"
+    "                 every even station of an interval (--every 0+50)\n"
+    "  plot           draw the profile of the curve as SVG\n"
+    "  check          compare the length of curve with the minimum for a design speed\n"
+    "                 (exit status 4 when it is too short)\n"
+    "  COMMAND --help tells more about table, plot and check\n"
+    "\n"
     "  --json         write the curve as one JSON object instead of a curve file\n"
     "  -o OUT         write to OUT instead of standard output\n"
     "\n"
     "Exit status: 0 done; 1 a check refused the calculation (its message on stderr);\n"
     "2 bad arguments or an unreadable file; 3 an elevation station lies outside the\n"
-    "curve (the curve as far as it was computed is still written).\n";
+    "curve (the curve as far as it was computed is still written); 4 check found\n"
+    "the curve too short for the design speed.\n";
 
 struct Options {
     std::string command;
@@ -250,6 +262,7 @@ int Run(int argc, char** argv, std::ostream& out, std::ostream& err) {
         out << kVersion << "\n";
         return kDone;
     }
+    if (std::optional<int> status = RunDesignCommand(args, out, err)) return *status;
     for (const std::string& a : args) {
         if (a == "--help" || a == "-h") {
             out << kHelp;
