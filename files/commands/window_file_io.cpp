@@ -2,6 +2,7 @@
 // elevations and a curve file on disk.
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 
 #include "core/curve_file.h"
@@ -27,23 +28,41 @@ QString WithoutLeadingBlanks(const QString& path) {
 // Writes through a temporary file renamed over the old one, so a failure leaves
 // the previous file as it was; a folder that cannot take a temporary file is
 // written directly. Empty on success, else the system's description.
+// Writes every byte through an open, unbuffered device; empty or the system's reason.
+QString WriteAll(QFileDevice& file, const std::string& bytes) {
+    const char* data = bytes.data();
+    qint64 left = qint64(bytes.size());
+    while (left > 0) {
+        const qint64 written = file.write(data, left);
+        if (written <= 0) return file.errorString();
+        data += written;
+        left -= written;
+    }
+    return {};
+}
+
+// A device or pipe named as the file is written in place: a temporary file renamed
+// over it would replace the device itself with a plain file.
+QString WriteInPlace(const QString& path, const std::string& bytes) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return file.errorString();
+    QString error = WriteAll(file, bytes);
+    file.close();
+    if (error.isEmpty() && file.error() != QFileDevice::NoError) error = file.errorString();
+    return error;
+}
+
 QString WriteBytes(const QString& path, const std::string& bytes) {
+    const QFileInfo target(path);
+    if (target.exists() && !target.isFile() && !target.isDir()) return WriteInPlace(path, bytes);
     QSaveFile file(path);
     file.setDirectWriteFallback(true);
     // Unbuffered: a short write (a full disk) then shows here with the system's
     // reason; left to the final flush it would go unnoticed and be committed.
     if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) return file.errorString();
-    const char* data = bytes.data();
-    qint64 left = qint64(bytes.size());
-    while (left > 0) {
-        const qint64 written = file.write(data, left);
-        if (written <= 0) {
-            const QString error = file.errorString();
-            file.cancelWriting();  // the temporary file goes with `file`
-            return error;
-        }
-        data += written;
-        left -= written;
+    if (const QString error = WriteAll(file, bytes); !error.isEmpty()) {
+        file.cancelWriting();  // the temporary file goes with `file`
+        return error;
     }
     if (!file.commit()) return file.errorString();
     return {};
