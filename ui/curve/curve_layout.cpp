@@ -2,7 +2,7 @@
 
 namespace gw::curve_layout {
 
-const std::array<TextFieldSpec, 16> kTextFields = {{
+const std::array<TextFieldPlace, 16> kTextFields = {{
     {"txtPVISTA", "Enter PVI station", {280, 24, 33, 19}, "PVI station, whole stations"},
     {"txtPVISTAM", "Enter PVI station", {336, 24, 57, 19}, "PVI station, plus part"},
     {"txtPVIEval", "Enter PVI Elevation", {279, 56, 113, 19}, "PVI elevation"},

@@ -10,7 +10,7 @@ namespace gw::curve_layout {
 
 inline constexpr QSize kClientSize{598, 357};
 
-struct TextFieldSpec {
+struct TextFieldPlace {
     std::string_view name;
     std::string_view tooltip;
     QRect rect;
@@ -18,7 +18,7 @@ struct TextFieldSpec {
 };
 
 // The sixteen text fields.
-extern const std::array<TextFieldSpec, 16> kTextFields;
+extern const std::array<TextFieldPlace, 16> kTextFields;
 
 // Whole-station fields never take more than 5 typed characters; plus fields take 7
 // once the mode has made them an input.

@@ -68,16 +68,16 @@ void frmCrestCurve::BuildControls() {
     connect(m_optPVI, &QRadioButton::clicked, this, &frmCrestCurve::optPVI_Click);
     connect(m_optPVCPVT, &QRadioButton::clicked, this, &frmCrestCurve::optPVCPVT_Click);
 
-    for (const curve_layout::TextFieldSpec& spec : curve_layout::kTextFields) {
+    for (const curve_layout::TextFieldPlace& place : curve_layout::kTextFields) {
         auto* field = new QLineEdit(this);
-        field->setObjectName(Q(spec.name));
-        field->setToolTip(Q(spec.tooltip));
-        field->setAccessibleName(Q(spec.accessibleName));
-        field->setGeometry(spec.rect);
+        field->setObjectName(Q(place.name));
+        field->setToolTip(Q(place.tooltip));
+        field->setAccessibleName(Q(place.accessibleName));
+        field->setGeometry(place.rect);
         field->setFrame(true);
         field->installEventFilter(this);
-        m_fields[spec.name] = field;
-        if (spec.name.size() > 3 && spec.name.substr(spec.name.size() - 3) == "STA") {
+        m_fields[place.name] = field;
+        if (place.name.size() > 3 && place.name.substr(place.name.size() - 3) == "STA") {
             m_limits[field] = curve_layout::kWholeStationLimit;
         }
     }
