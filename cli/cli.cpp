@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/arguments.h"
 #include "cli/design_commands.h"
 #include "cli/text_output.h"
 #include "core/auto_stationing.h"
@@ -16,7 +17,6 @@
 #include "core/curve_solver.h"
 #include "core/elevations.h"
 #include "core/numbers.h"
-#include "files/curve_file_io.h"
 
 #define GW_STR2(x) #x
 #define GW_STR(x) GW_STR2(x)
@@ -79,10 +79,6 @@ struct Options {
     std::optional<std::string> copies;
 };
 
-struct UsageError {
-    std::string message;
-};
-
 // "10+50" -> "10" and "50"; a leading sign belongs to the whole part ("-1+5").
 bool SplitStationArgument(const std::string& text, std::string& whole, std::string& plus) {
     size_t at = text.find('+', 1);
@@ -93,44 +89,30 @@ bool SplitStationArgument(const std::string& text, std::string& whole, std::stri
 }
 
 Options Parse(const std::vector<std::string>& args) {
-    Options o;
     if (args.empty()) throw UsageError{"no command given"};
-    o.command = args[0];
-    if (o.command != "solve" && o.command != "autostation" && o.command != "report") {
-        throw UsageError{"unknown command '" + o.command + "'"};
+    const std::string& command = args[0];
+    std::optional<CommandArguments> a;
+    if (command == "solve") {
+        a.emplace(args, std::initializer_list<const char*>{"-o"}, std::initializer_list<const char*>{"--elevations", "--json"});
+    } else if (command == "autostation") {
+        a.emplace(args, std::initializer_list<const char*>{"-o", "--points", "--begin", "--increment"},
+                  std::initializer_list<const char*>{"--json"});
+    } else if (command == "report") {
+        a.emplace(args, std::initializer_list<const char*>{"--pdf", "--copies"}, std::initializer_list<const char*>{});
+    } else {
+        throw UsageError{"unknown command '" + command + "'"};
     }
-    auto value = [&](size_t& i) -> std::string {
-        if (i + 1 >= args.size()) throw UsageError{args[i] + " needs a value"};
-        return args[++i];
-    };
-    for (size_t i = 1; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        const bool producesCurve = o.command != "report";
-        if (a == "--elevations" && o.command == "solve") {
-            o.elevations = true;
-        } else if (a == "--json" && producesCurve) {
-            o.json = true;
-        } else if (a == "-o" && producesCurve) {
-            o.output = value(i);
-        } else if (a == "--points" && o.command == "autostation") {
-            o.points = value(i);
-        } else if (a == "--begin" && o.command == "autostation") {
-            o.begin = value(i);
-        } else if (a == "--increment" && o.command == "autostation") {
-            o.increment = value(i);
-        } else if (a == "--pdf" && o.command == "report") {
-            o.pdf = value(i);
-        } else if (a == "--copies" && o.command == "report") {
-            o.copies = value(i);
-        } else if (!a.empty() && a[0] == '-' && a != "-") {
-            throw UsageError{"unknown option '" + a + "' for " + o.command};
-        } else if (o.file.empty()) {
-            o.file = a;
-        } else {
-            throw UsageError{"more than one FILE given ('" + o.file + "' and '" + a + "')"};
-        }
-    }
-    if (o.file.empty()) throw UsageError{o.command + " needs a curve FILE"};
+    Options o;
+    o.command = command;
+    o.file = a->File();
+    o.elevations = a->Flag("--elevations");
+    o.json = a->Flag("--json");
+    o.output = a->Value("-o");
+    o.points = a->Value("--points");
+    o.begin = a->Value("--begin");
+    o.increment = a->Value("--increment");
+    o.pdf = a->Value("--pdf");
+    o.copies = a->Value("--copies");
     if (o.copies && !o.pdf) throw UsageError{"--copies goes with --pdf"};
     if (o.command == "autostation") {
         const bool spacing = o.begin || o.increment;
@@ -162,7 +144,13 @@ int RunPdfHelper(const std::string& file, const std::string& out, int copies, st
         const ssize_t n = ::readlink("/proc/self/exe", self, sizeof self - 1);
         if (n > 0) {
             std::string dir(self, static_cast<size_t>(n));
-            helper = dir.substr(0, dir.rfind('/') + 1) + "gradewise-pdf";
+            dir = dir.substr(0, dir.rfind('/') + 1);
+            helper = dir + "gradewise-pdf";
+#ifdef GW_PDF_HELPER_FROM_BIN
+            // Installed, the helper is kept off the PATH in the libexec folder.
+            const std::string installed = dir + GW_PDF_HELPER_FROM_BIN;
+            if (::access(helper.c_str(), X_OK) != 0 && ::access(installed.c_str(), X_OK) == 0) helper = installed;
+#endif
         }
     }
     const std::string copiesText = std::to_string(copies);
@@ -198,12 +186,8 @@ Outcome AnswerDialog(const Options& o, const CurveSheet& sheet, AutoStationing& 
 }
 
 int Execute(const Options& o, std::ostream& out, std::ostream& err) {
-    std::string bytes, error;
-    if (!ReadFileBytes(o.file, bytes, error)) {
-        err << "gradewise-cli: cannot read '" << o.file << "': " << error << "\n";
-        return kUsage;
-    }
-    CurveSheet sheet = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
+    CurveSheet sheet;
+    if (!LoadCurve(o.file, sheet, err)) return kUsage;
     if (o.command == "report") {
         if (!o.pdf) {
             out << ReportText(sheet);
@@ -238,16 +222,8 @@ int Execute(const Options& o, std::ostream& out, std::ostream& err) {
         stopAt(ApplyAutoStationing(sheet, dialog));
     }
 
-    const std::string text = o.json ? CurveJson(sheet) : CurveFileBytes(sheet);
-    if (o.output) {
-        if (!WriteFileBytes(*o.output, text, error)) {
-            err << "gradewise-cli: cannot write '" << *o.output << "': " << error << "\n";
-            return kUsage;
-        }
-    } else {
-        out << text;
-    }
-    return status;
+    const int written = Emit(o.output, o.json ? CurveJson(sheet) : CurveFileBytes(sheet), out, err);
+    return written == kDone ? status : written;
 }
 
 }  // namespace

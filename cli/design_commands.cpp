@@ -1,17 +1,16 @@
 #include "design_commands.h"
 
+#include "cli/arguments.h"
 #include "cli/check_command.h"
 #include "cli/cli.h"
 #include "cli/profile_svg.h"
 #include "cli/table_output.h"
 #include "cli/text_output.h"
-#include "core/curve_file.h"
 #include "core/curve_solver.h"
 #include "core/elevations.h"
 #include "core/numbers.h"
 #include "core/station_rows.h"
 #include "core/stations.h"
-#include "files/curve_file_io.h"
 
 namespace gw::cli {
 namespace {
@@ -52,10 +51,6 @@ constexpr const char* kPlotHelp =
 // Beyond this a table is a mistake in --every, not a table anyone reads.
 constexpr double kMostRows = 100000;
 
-struct UsageError {
-    std::string message;
-};
-
 struct DesignOptions {
     std::string command;
     std::string file;
@@ -66,31 +61,18 @@ struct DesignOptions {
 };
 
 DesignOptions Parse(const std::vector<std::string>& args) {
+    const std::string& command = args[0];
+    const CommandArguments a =
+        command == "table"  ? CommandArguments(args, {"--every", "-o"}, {"--csv"})
+        : command == "plot" ? CommandArguments(args, {"-o"}, {})
+                            : CommandArguments(args, {"--speed"}, {});
     DesignOptions o;
-    o.command = args[0];
-    auto value = [&](size_t& i) -> std::string {
-        if (i + 1 >= args.size()) throw UsageError{args[i] + " needs a value"};
-        return args[++i];
-    };
-    for (size_t i = 1; i < args.size(); ++i) {
-        const std::string& a = args[i];
-        if (a == "--every" && o.command == "table") {
-            o.every = value(i);
-        } else if (a == "--csv" && o.command == "table") {
-            o.csv = true;
-        } else if (a == "-o" && o.command != "check") {
-            o.output = value(i);
-        } else if (a == "--speed" && o.command == "check") {
-            o.speed = value(i);
-        } else if (!a.empty() && a[0] == '-' && a != "-") {
-            throw UsageError{"unknown option '" + a + "' for " + o.command};
-        } else if (o.file.empty()) {
-            o.file = a;
-        } else {
-            throw UsageError{"more than one FILE given ('" + o.file + "' and '" + a + "')"};
-        }
-    }
-    if (o.file.empty()) throw UsageError{o.command + " needs a curve FILE"};
+    o.command = command;
+    o.file = a.File();
+    o.every = a.Value("--every");
+    o.output = a.Value("-o");
+    o.speed = a.Value("--speed");
+    o.csv = a.Flag("--csv");
     if (o.command == "table" && !o.every) throw UsageError{"table needs --every WHOLE+PLUS, for example --every 0+50"};
     if (o.command == "check" && !o.speed) throw UsageError{"check needs --speed V, the design speed"};
     if (o.speed && !(IsNumericText(*o.speed) && ReadNumber(*o.speed) > 0)) {
@@ -116,12 +98,7 @@ double Interval(const std::string& text, const CurveSheet& sheet) {
 
 // The curve as solve leaves it; any status but kDone ends the command.
 int LoadSolvedCurve(const DesignOptions& o, CurveSheet& sheet, std::ostream& err) {
-    std::string bytes, error;
-    if (!ReadFileBytes(o.file, bytes, error)) {
-        err << "gradewise-cli: cannot read '" << o.file << "': " << error << "\n";
-        return kUsage;
-    }
-    sheet = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
+    if (!LoadCurve(o.file, sheet, err)) return kUsage;
     if (Outcome refused = Calculate(sheet)) {
         err << refused->message << "\n";
         return kRefused;
@@ -134,16 +111,7 @@ int LoadSolvedCurve(const DesignOptions& o, CurveSheet& sheet, std::ostream& err
 }
 
 int Emit(const DesignOptions& o, const std::string& text, std::ostream& out, std::ostream& err) {
-    if (!o.output) {
-        out << text;
-        return kDone;
-    }
-    std::string error;
-    if (!WriteFileBytes(*o.output, text, error)) {
-        err << "gradewise-cli: cannot write '" << *o.output << "': " << error << "\n";
-        return kUsage;
-    }
-    return kDone;
+    return cli::Emit(o.output, text, out, err);
 }
 
 std::string OffsetCaption(const CurveSheet& s) {
