@@ -1,10 +1,13 @@
-// The curve window: its layout, the two modes, Calc, Clear All, Enter and the
-// changed flag.
+// The curve window: its layout, the two modes, Enter, the changed flag and the
+// checks on leaving a field, driven by real key presses and focus changes.
 
 #include <QLabel>
+#include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
+#include <cstring>
 
 #include "ui_fixture.h"
 
@@ -17,41 +20,26 @@ const QStringList kPVCPVTInputs = {"txtG1",     "txtPVCSTA",  "txtPVCSTAM", "txt
 
 class CurveWindowTest : public UiTest {
 protected:
-    static QStringList FieldNames(const frmCrestCurve& w) {
-        QStringList names;
-        for (QLineEdit* f : w.findChildren<QLineEdit*>()) names << f->objectName();
-        return names;
-    }
-    static QStringList Inputs(const frmCrestCurve& w) {
+    static QStringList SortedInputs(const frmCrestCurve& w) {
         QStringList names;
         for (QLineEdit* f : w.findChildren<QLineEdit*>()) {
             if (!f->isReadOnly()) names << f->objectName();
         }
+        names.sort();
         return names;
     }
-    // Presses Tab from the first input and notes where the focus goes.
-    static QStringList TabWalk(frmCrestCurve& w, const QString& first, int steps) {
-        ClickInto(w.Field(first.toStdString()));
-        QStringList visited{first};
-        for (int i = 1; i < steps; ++i) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            Settle();
-            visited << QApplication::focusWidget()->objectName();
-        }
-        return visited;
+    static QStringList Sorted(QStringList names) {
+        names.sort();
+        return names;
     }
-    static void SolveMetricExample(frmCrestCurve& w) {
-        TypeInto(w.Field("txtPVISTA"), "1");
-        TypeInto(w.Field("txtPVISTAM"), "250");
-        TypeInto(w.Field("txtPVIEval"), "100");
-        TypeInto(w.Field("txtG1"), "2");
-        TypeInto(w.Field("txtG2"), "-2");
-        TypeInto(w.Field("txtLC"), "200");
-        QTest::keyClick(w.Field("txtLC"), Qt::Key_Return);
+    bool Changed() { return Main().Slots().State(1).changed; }
+    static void Press(QWidget* w, Qt::Key key) {
+        QTest::keyClick(w, key);
+        Settle();
     }
 };
 
-TEST_F(CurveWindowTest, ControlsFitTheFixedClientAreaWithoutOverlapping) {
+TEST_F(CurveWindowTest, NewWindowIsEmptyInThePviModeAndItsControlsFitWithoutOverlapping) {
     frmCrestCurve& w = NewCurve();
     EXPECT_EQ(w.size(), QSize(598, 357));
     EXPECT_EQ(w.minimumSize(), w.maximumSize());
@@ -67,28 +55,15 @@ TEST_F(CurveWindowTest, ControlsFitTheFixedClientAreaWithoutOverlapping) {
         }
     }
     EXPECT_FALSE(w.findChild<QLabel*>("lblMorF")->isVisible());
-    EXPECT_EQ(w.Field("txtPVCSTAM")->toolTip(), QStringLiteral("Calculated PVC station"));
-}
-
-TEST_F(CurveWindowTest, NewWindowStartsEmptyInThePVIMode) {
-    frmCrestCurve& w = NewCurve();
     EXPECT_TRUE(w.findChild<QRadioButton*>("optPVI")->isChecked());
-    EXPECT_EQ(w.findChild<QPushButton*>("cmdCalcP")->text(), QStringLiteral("Calc PVC/PVT"));
-    EXPECT_EQ(w.findChild<QPushButton*>("cmdCalcP")->toolTip(), QStringLiteral("Calculate PVC / PVT info"));
-    QStringList inputs = Inputs(w);
-    inputs.sort();
-    QStringList expected = kPVIInputs;
-    expected.sort();
-    EXPECT_EQ(inputs, expected);
+    EXPECT_EQ(w.findChild<QPushButton*>("cmdCalcP")->text(), "Calc PVC/PVT");
+    EXPECT_EQ(SortedInputs(w), Sorted(kPVIInputs));
     for (QLineEdit* f : w.findChildren<QLineEdit*>()) {
         EXPECT_TRUE(f->text().isEmpty()) << f->objectName().toStdString();
-        EXPECT_TRUE(f->isEnabled()) << f->objectName().toStdString();
         EXPECT_EQ(f->focusPolicy() == Qt::ClickFocus, f->isReadOnly()) << f->objectName().toStdString();
     }
-    const QColor input = w.Field("txtPVISTA")->palette().color(QPalette::Base);
-    const QColor result = w.Field("txtPVCSTA")->palette().color(QPalette::Base);
-    EXPECT_NE(input, result);
-    EXPECT_EQ(w.Field("txtMO")->palette().color(QPalette::Base), result);
+    EXPECT_NE(w.Field("txtPVISTA")->palette().color(QPalette::Base),
+              w.Field("txtPVCSTA")->palette().color(QPalette::Base));
 }
 
 struct ModeCase {
@@ -110,30 +85,26 @@ TEST_P(ModeTest, SwitchingEmptiesTheSheetAndSetsInputsTabOrderAndCaption) {
     for (std::string_view name : CurveSheet::CurveFieldNames()) *full.Field(name) = "7";
     full.lblSDL = "SSD";
     full.elevations.rows[19].txtTOTSTAM1 = "5";
-    full.elevations.txtVOffset = "1";
     full.elevations.txtPVCSTA = "3";
     w.ScatterSheet(full);
-    const bool changedBefore = Main().Slots().State(1).changed;
 
     QTest::mouseClick(w.findChild<QRadioButton*>(c.option), Qt::LeftButton);
     Settle();
 
     for (QLineEdit* f : w.findChildren<QLineEdit*>()) EXPECT_TRUE(f->text().isEmpty()) << f->objectName().toStdString();
     EXPECT_TRUE(w.findChild<QLabel*>("lblSDL")->text().isEmpty());
-    const ElevationTable& rows = Main().Slots().Elevations(1);
-    EXPECT_TRUE(rows.rows[19].txtTOTSTAM1.empty());
-    EXPECT_TRUE(rows.txtVOffset.empty());
-    EXPECT_EQ(rows.txtPVCSTA, "3");  // the elevations window's station copies stay
-    EXPECT_EQ(Main().Slots().State(1).changed, changedBefore);
+    EXPECT_TRUE(Main().Slots().Elevations(1).rows[19].txtTOTSTAM1.empty());
+    EXPECT_EQ(Main().Slots().Elevations(1).txtPVCSTA, "3");  // the elevations window's station copies stay
+    EXPECT_FALSE(Changed());  // a mouse command
     EXPECT_EQ(w.findChild<QPushButton*>("cmdCalcP")->text(), QString::fromLatin1(c.calcCaption));
-    EXPECT_EQ(QApplication::focusWidget(), w.Field(c.tabOrder.front().toStdString()));
-
-    QStringList inputs = Inputs(w);
-    QStringList expected = c.tabOrder;
-    inputs.sort();
-    expected.sort();
-    EXPECT_EQ(inputs, expected);
-    EXPECT_EQ(TabWalk(w, c.tabOrder.front(), int(c.tabOrder.size())), c.tabOrder);
+    EXPECT_EQ(SortedInputs(w), Sorted(c.tabOrder));
+    // Tab walks the inputs in order, starting where the switch put the focus.
+    QStringList visited{QApplication::focusWidget()->objectName()};
+    for (int i = 1; i < c.tabOrder.size(); ++i) {
+        Press(QApplication::focusWidget(), Qt::Key_Tab);
+        visited << QApplication::focusWidget()->objectName();
+    }
+    EXPECT_EQ(visited, c.tabOrder);
 }
 
 INSTANTIATE_TEST_SUITE_P(Modes, ModeTest,
@@ -145,66 +116,45 @@ TEST_F(CurveWindowTest, TypingStopsAtTheFieldLimitsButResultsAreWrittenWhole) {
     frmCrestCurve& w = NewCurve();
     TypeInto(w.Field("txtPVISTA"), "1234567");
     TypeInto(w.Field("txtPVISTAM"), "999.9999");
-    EXPECT_EQ(w.Field("txtPVISTA")->text(), QStringLiteral("12345"));
-    EXPECT_EQ(w.Field("txtPVISTAM")->text(), QStringLiteral("999.999"));
-
-    QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
-    TypeInto(w.Field("txtPVCSTAM"), "12.345678");
-    TypeInto(w.Field("txtPVTSTAM"), "12.345678");
-    EXPECT_EQ(w.Field("txtPVCSTAM")->text(), QStringLiteral("12.3456"));
-    EXPECT_EQ(w.Field("txtPVTSTAM")->text(), QStringLiteral("12.3456"));
-
+    EXPECT_EQ(w.Field("txtPVISTA")->text(), "12345");
+    EXPECT_EQ(w.Field("txtPVISTAM")->text(), "999.999");
     CurveSheet sheet = w.GatherSheet();
     sheet.txtPVISTAM = "345.6789";
-    sheet.txtPVISTA = "123456";
     w.ScatterSheet(sheet);
-    EXPECT_EQ(w.Field("txtPVISTAM")->text(), QStringLiteral("345.6789"));
-    EXPECT_EQ(w.Field("txtPVISTA")->text(), QStringLiteral("123456"));
+    EXPECT_EQ(w.Field("txtPVISTAM")->text(), "345.6789");
 }
 
-TEST_F(CurveWindowTest, EnterInTheLastFieldSolvesTheCurveAndTypesNothing) {
+TEST_F(CurveWindowTest, EnterCalculatesFromAnyFieldWithoutTheFieldsOwnCheck) {
     frmCrestCurve& w = NewCurve();
-    SolveMetricExample(w);
-    EXPECT_TRUE(Messages().isEmpty()) << Messages().join('|').toStdString();
-    EXPECT_EQ(w.Field("txtLC")->text(), QStringLiteral("200"));
-    EXPECT_EQ(w.Field("txtPVCSTA")->text(), QStringLiteral("1"));
-    EXPECT_EQ(w.Field("txtPVCSTAM")->text(), QStringLiteral("150.0"));
-    EXPECT_EQ(w.Field("txtPVTSTAM")->text(), QStringLiteral("350.0"));
-    EXPECT_EQ(w.Field("txtPVCEval")->text(), QStringLiteral("98.0"));
-    EXPECT_EQ(w.findChild<QLabel*>("lblSDL")->text(), QStringLiteral("SSD"));
-    EXPECT_FALSE(w.Field("txtSD")->text().isEmpty());
-}
-
-TEST_F(CurveWindowTest, EnterInAResultFieldStillCalculates) {
-    frmCrestCurve& w = NewCurve();
-    ClickInto(w.Field("txtPVCEval"));
-    m_platform.AnswerMessage(MessageButton::Ok);
-    QTest::keyClick(w.Field("txtPVCEval"), Qt::Key_Return);
-    Settle();
-    EXPECT_EQ(Messages(), QStringList{"PVI Station needs to be entered."});
-    EXPECT_EQ(m_platform.Messages().front().title, QStringLiteral("Gradewise"));
-    EXPECT_EQ(m_platform.Messages().front().buttons, MessageButtons::Ok);
-    EXPECT_TRUE(Main().Slots().State(1).changed);
-    EXPECT_EQ(QApplication::focusWidget(), w.Field("txtPVISTA"));
-}
-
-TEST_F(CurveWindowTest, EnterCalculatesWithoutTheFieldsOwnCheck) {
-    frmCrestCurve& w = NewCurve();
-    TypeInto(w.Field("txtPVISTAM"), "0");  // would fail "Can not have a 0 station." on leaving
-    m_platform.AnswerMessage(MessageButton::Ok);
-    QTest::keyClick(w.Field("txtPVISTAM"), Qt::Key_Enter);
-    Settle();
-    EXPECT_EQ(Messages(), QStringList{"PVI Station needs to be entered."});
-    EXPECT_EQ(w.Field("txtPVISTAM")->text(), QStringLiteral("0"));
-}
-
-TEST_F(CurveWindowTest, CalculateElevationsOnAnEmptySheetShowsCalcsFirstMessageOnly) {
-    frmCrestCurve& w = NewCurve(false);
-    m_platform.AnswerMessage(MessageButton::Ok);
-    QTest::mouseClick(w.findChild<QPushButton*>("cmdMoreTOS"), Qt::LeftButton);
-    Settle();
-    EXPECT_EQ(Messages(), QStringList{"PVI Station needs to be entered."});
-    EXPECT_EQ(m_platform.ShownDialogs(), QStringList{"frmInformation"});
+    {
+        SCOPED_TRACE("in a result field of an empty sheet");
+        ClickInto(w.Field("txtPVCEval"));
+        m_platform.AnswerMessage(MessageButton::Ok);
+        Press(w.Field("txtPVCEval"), Qt::Key_Return);
+        EXPECT_EQ(Messages(), QStringList{"PVI Station needs to be entered."});
+        EXPECT_EQ(m_platform.Messages().front().buttons, MessageButtons::Ok);
+        EXPECT_EQ(QApplication::focusWidget(), w.Field("txtPVISTA"));
+    }
+    {
+        SCOPED_TRACE("in a field that would fail its check on leaving");
+        TypeInto(w.Field("txtPVISTAM"), "0");
+        m_platform.AnswerMessage(MessageButton::Ok);
+        Press(w.Field("txtPVISTAM"), Qt::Key_Enter);
+        EXPECT_EQ(Messages().size(), 2);
+        EXPECT_EQ(Messages().back(), "PVI Station needs to be entered.");
+    }
+    {
+        SCOPED_TRACE("in the last input of a full sheet");
+        for (auto [name, text] : {std::pair{"txtPVISTA", "1"}, {"txtPVISTAM", "250"}, {"txtPVIEval", "100"},
+                                  {"txtG1", "2"}, {"txtG2", "-2"}, {"txtLC", "200"}}) {
+            w.Field(name)->setText(text);
+        }
+        Press(w.Field("txtLC"), Qt::Key_Return);
+        EXPECT_EQ(Messages().size(), 2);
+        EXPECT_EQ(w.Field("txtLC")->text(), "200");  // Enter types nothing
+        EXPECT_EQ(w.Field("txtPVCSTAM")->text(), "150.0");
+        EXPECT_EQ(w.findChild<QLabel*>("lblSDL")->text(), "SSD");
+    }
 }
 
 struct KeyCase {
@@ -219,42 +169,112 @@ class ChangedKeyTest : public CurveWindowTest, public ::testing::WithParamInterf
 
 TEST_P(ChangedKeyTest, OnlyCharacterKeysMarkTheCurveChanged) {
     frmCrestCurve& w = NewCurve();
-    TypeInto(w.Field("txtPVISTA"), QString());  // focus only
+    ClickInto(w.Field("txtPVISTA"));
     QTest::keyClick(w.Field("txtPVISTA"), GetParam().key);
-    EXPECT_EQ(Main().Slots().State(1).changed, GetParam().marksChanged);
+    EXPECT_EQ(Changed(), GetParam().marksChanged);
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, ChangedKeyTest,
-                         ::testing::Values(KeyCase{"Letter", Qt::Key_Q, true}, KeyCase{"Digit", Qt::Key_7, true},
-                                           KeyCase{"Minus", Qt::Key_Minus, true},
+                         ::testing::Values(KeyCase{"Letter", Qt::Key_Q, true}, KeyCase{"Minus", Qt::Key_Minus, true},
                                            KeyCase{"Backspace", Qt::Key_Backspace, true},
                                            KeyCase{"LeftArrow", Qt::Key_Left, false},
                                            KeyCase{"Delete", Qt::Key_Delete, false}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(CurveWindowTest, MouseCommandsLeaveChangedAlone) {
+TEST_F(CurveWindowTest, ClearAllMarksChangedOnlyAfterTyping) {
     frmCrestCurve& w = NewCurve();
     QTest::mouseClick(w.findChild<QPushButton*>("cmdClear"), Qt::LeftButton);
-    QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
-    EXPECT_FALSE(Main().Slots().State(1).changed);
-
+    EXPECT_FALSE(Changed());
     ClickInto(w.Field("txtG1"));
     QTest::keyClick(w.Field("txtG1"), Qt::Key_1);
     QTest::mouseClick(w.findChild<QPushButton*>("cmdClear"), Qt::LeftButton);
-    EXPECT_TRUE(Main().Slots().State(1).changed);
+    EXPECT_TRUE(Changed());
 }
 
-TEST_F(CurveWindowTest, CalcEmptiesTheRowsOnlyWhenAStationMoves) {
-    frmCrestCurve& w = NewCurve();
-    Main().Slots().Elevations(1).rows[0].txtTOTSTA1 = "1";
-    SolveMetricExample(w);
-    EXPECT_TRUE(Main().Slots().Elevations(1).rows[0].txtTOTSTA1.empty());
-    Main().Slots().State(1).changed = false;
-    Main().Slots().Elevations(1).rows[0].txtTOTSTA1 = "1";
+struct LeaveCase {
+    const char* name;
+    bool metric;
+    const char* field;
+    const char* text;
+    const char* wholeText;  // typed first into the whole-station field of the same station
+    const char* message;    // "" when leaving is accepted
+};
 
-    QTest::mouseClick(w.findChild<QPushButton*>("cmdCalcP"), Qt::LeftButton);  // nothing moves
-    EXPECT_FALSE(Main().Slots().State(1).changed);
-    EXPECT_EQ(Main().Slots().Elevations(1).rows[0].txtTOTSTA1, "1");
+void PrintTo(const LeaveCase& c, std::ostream* os) { *os << c.name; }
+
+class LeaveTest : public UiTest, public ::testing::WithParamInterface<LeaveCase> {};
+
+TEST_P(LeaveTest, ShowsTheMessageOnceAndPutsTheFocusBackWithTheTextAsTyped) {
+    const LeaveCase& c = GetParam();
+    frmCrestCurve& w = NewCurve(c.metric);
+    QLineEdit* field = w.Field(c.field);
+    if (*c.wholeText) TypeInto(w.Field(std::string(c.field, std::strlen(c.field) - 1)), c.wholeText);
+    TypeInto(field, c.text);
+    if (*c.message) m_platform.AnswerMessage(MessageButton::Ok);
+    QTest::keyClick(field, Qt::Key_Tab);
+    Settle();
+    EXPECT_EQ(Messages(), *c.message ? QStringList{c.message} : QStringList{});
+    EXPECT_EQ(QApplication::focusWidget() == field, *c.message != '\0');
+    EXPECT_EQ(field->text(), QString::fromLatin1(c.text));
+}
+
+// The checks themselves are the core's; these rows show each kind reaches the window
+// with the window's own unit system.
+INSTANTIATE_TEST_SUITE_P(
+    CurveFields, LeaveTest,
+    ::testing::Values(LeaveCase{"EmptyLength", true, "txtLC", "", "", "Length of Curve can not be 0."},
+                      LeaveCase{"GradeWithLetter", true, "txtG1", "12a", "", "Must be numeric."},
+                      LeaveCase{"EmptyGradePasses", true, "txtG2", "", "", ""},
+                      LeaveCase{"EnglishPlusBeyondLimit", false, "txtPVISTAM", "150", "1",
+                                "Measurement must be less than 100 feet."},
+                      LeaveCase{"MetricPlusWithinLimit", true, "txtPVISTAM", "999.999", "1", ""},
+                      LeaveCase{"MetricPlusBeyondLimit", true, "txtPVISTAM", "1000", "1",
+                                "Measurement must be less than 1000 meters."},
+                      LeaveCase{"ZeroStation", false, "txtPVISTAM", "0", "0", "Can not have a 0 station."}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+using LeaveFocusTest = UiTest;
+
+TEST_F(LeaveFocusTest, TabBetweenTwoBadFieldsReportsOnlyTheFirst) {
+    frmCrestCurve& w = NewCurve();
+    w.Field("txtG2")->setText("y");  // bad already, as a loaded curve could be
+    TypeInto(w.Field("txtG1"), "12a");
+    m_platform.AnswerMessage(MessageButton::Ok);
+    QTest::keyClick(w.Field("txtG1"), Qt::Key_Tab);  // on to G2, and the box brings the focus back
+    Settle();
+    EXPECT_EQ(Messages(), QStringList{"Must be numeric."});
+    EXPECT_EQ(QApplication::focusWidget(), w.Field("txtG1"));
+
+    // Once G1 is right, leaving G2 is checked as usual.
+    QTest::keyClick(w.Field("txtG1"), Qt::Key_Backspace);
+    QTest::keyClick(w.Field("txtG1"), Qt::Key_Tab);
+    Settle();
+    EXPECT_EQ(QApplication::focusWidget(), w.Field("txtG2"));
+    m_platform.AnswerMessage(MessageButton::Ok);
+    QTest::keyClick(w.Field("txtG2"), Qt::Key_Tab);
+    Settle();
+    EXPECT_EQ(Messages(), (QStringList{"Must be numeric.", "Must be numeric."}));
+    EXPECT_EQ(QApplication::focusWidget(), w.Field("txtG2"));
+}
+
+TEST_F(LeaveFocusTest, MovingToAnotherCurveWindowIsNotLeavingTheField) {
+    frmCrestCurve& first = NewCurve();
+    frmCrestCurve& second = NewCurve(false);
+    Main().MdiArea().setActiveSubWindow(qobject_cast<QMdiSubWindow*>(first.parentWidget()));
+    TypeInto(first.Field("txtG1"), "12a");
+    ClickInto(second.Field("txtG1"));
+    EXPECT_TRUE(Messages().isEmpty()) << Messages().join('|').toStdString();
+    EXPECT_EQ(Main().ActiveCurveWindow(), &second);
+}
+
+TEST_F(LeaveFocusTest, ClickingIntoAResultAndLeavingChecksItToo) {
+    frmCrestCurve& w = NewCurve();
+    QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
+    ClickInto(w.Field("txtLC"));  // a result in this mode
+    m_platform.AnswerMessage(MessageButton::Ok);
+    ClickInto(w.Field("txtG1"));
+    EXPECT_EQ(Messages(), QStringList{"Length of Curve can not be 0."});
+    EXPECT_EQ(QApplication::focusWidget(), w.Field("txtLC"));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <QTest>
 
 #include "shell/units_dialog.h"
+#include "tests/qt_test_printers.h"
 #include "ui_fixture.h"
 
 namespace gw::test {
@@ -14,42 +15,36 @@ namespace {
 
 class NewCurveTest : public UiTest {};
 
-TEST_F(NewCurveTest, FirstCurveOffersMetricAndOpensAnUntitledMetricWindow) {
+TEST_F(NewCurveTest, TheUnitsDialogOffersTheLastChoiceAndTitlesTheWindowByIt) {
     frmMain& main = Main();
-    bool metricOffered = false;
-    m_platform.AnswerDialog([&](QDialog& dialog) {
-        metricOffered = dialog.findChild<QRadioButton*>(QStringLiteral("optMetric"))->isChecked();
-        EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Measurement Info"));
-        EXPECT_FALSE(dialog.windowFlags() & Qt::WindowCloseButtonHint);
-        QTest::keyClick(&dialog, Qt::Key_Return);  // Enter = OK
-    });
-    main.mnuVerticalCrest_Click();
-    Settle();
-
-    EXPECT_TRUE(metricOffered);
-    EXPECT_EQ(m_platform.ShownDialogs(), QStringList{QStringLiteral("frmInformation")});
-    frmCrestCurve* curve = main.ActiveCurveWindow();
-    ASSERT_NE(curve, nullptr);
-    EXPECT_EQ(curve->windowTitle(), QStringLiteral("Vertical Curve - Metric: Untitled"));
-    EXPECT_EQ(curve->Tag(), QStringLiteral("1"));
-    EXPECT_EQ(curve->UnitSystem(), QStringLiteral("Metric"));
+    QStringList offered;
+    auto answer = [&](const char* choose) {
+        m_platform.AnswerDialog([&offered, choose](QDialog& dialog) {
+            EXPECT_EQ(dialog.windowTitle(), "Measurement Info");
+            EXPECT_FALSE(dialog.windowFlags() & Qt::WindowCloseButtonHint);
+            for (auto* option : dialog.findChildren<QRadioButton*>()) {
+                if (option->isChecked()) offered << option->objectName();
+            }
+            if (choose) QTest::mouseClick(dialog.findChild<QRadioButton*>(choose), Qt::LeftButton);
+            QTest::mouseClick(dialog.findChild<QPushButton*>("cmdOK"), Qt::LeftButton);
+        });
+        main.mnuVerticalCrest_Click();
+        Settle();
+        return main.ActiveCurveWindow();
+    };
+    frmCrestCurve* metric = answer(nullptr);
+    ASSERT_NE(metric, nullptr);
+    EXPECT_EQ(metric->windowTitle(), "Vertical Curve - Metric: Untitled");
+    EXPECT_EQ(metric->Tag(), "1");
     EXPECT_FALSE(main.Slots().State(1).changed);
     EXPECT_FALSE(main.UnitsDialog().isVisible());
-}
-
-TEST_F(NewCurveTest, EnglishChoiceTitlesTheWindowAndIsOfferedNextTime) {
-    frmCrestCurve& english = NewCurve(false);
-    EXPECT_EQ(english.windowTitle(), QStringLiteral("Vertical Curve - English: Untitled"));
-    EXPECT_EQ(english.UnitSystem(), QStringLiteral("English"));
-
-    bool englishOffered = false;
-    m_platform.AnswerDialog([&](QDialog& dialog) {
-        englishOffered = dialog.findChild<QRadioButton*>(QStringLiteral("optEnglish"))->isChecked();
-        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("cmdOK")), Qt::LeftButton);
-    });
-    Main().mnuVerticalCrest_Click();
-    EXPECT_TRUE(englishOffered);
-    EXPECT_EQ(Main().ActiveCurveWindow()->Tag(), QStringLiteral("2"));
+    answer("optEnglish");
+    frmCrestCurve* english = answer(nullptr);
+    EXPECT_EQ(english->windowTitle(), "Vertical Curve - English: Untitled");
+    EXPECT_EQ(english->UnitSystem(), "English");
+    EXPECT_EQ(english->Tag(), "3");
+    EXPECT_EQ(offered, (QStringList{"optMetric", "optMetric", "optEnglish"}));
+    EXPECT_EQ(m_platform.ShownDialogs().size(), 3);
 }
 
 struct CancelWay {
