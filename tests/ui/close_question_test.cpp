@@ -2,8 +2,6 @@
 // opened or saved, on every way a curve window closes, and what each answer does.
 
 #include <QDir>
-#include <QPushButton>
-#include <QRadioButton>
 
 #include "file_fixture.h"
 
@@ -19,10 +17,10 @@ protected:
         SaveAs(path);
         return w;
     }
+    static QString Question(const QString& name) {
+        return "The text in [" + name + "] has changed.\r\nDo you want to save the changes?";
+    }
 };
-
-const QString kUntitledQuestion =
-    QStringLiteral("The text in [Untitled] has changed.\r\nDo you want to save the changes?");
 
 struct Closing {
     const char* name;
@@ -33,24 +31,7 @@ void PrintTo(const Closing& c, std::ostream* os) { *os << c.name; }
 
 class ClosingTest : public CloseQuestionTest, public ::testing::WithParamInterface<Closing> {};
 
-TEST_P(ClosingTest, AsksOnceAfterTypingAndNoClosesUnsaved) {
-    frmCrestCurve& w = NewCurve();
-    TypeInto(w.Field("txtG1"), "7");
-    m_platform.AnswerMessage(MessageButton::No);
-    GetParam().close(Main(), w);
-    Settle();
-    ASSERT_EQ(m_platform.Messages().size(), 1u);
-    const MessageRequest& q = m_platform.Messages().front();
-    EXPECT_EQ(q.text, kUntitledQuestion);
-    EXPECT_EQ(q.title, "Gradewise");
-    EXPECT_EQ(q.buttons, MessageButtons::YesNoCancel);
-    EXPECT_EQ(q.defaultButton, MessageButton::Yes);
-    EXPECT_EQ(q.icon, MessageIcon::Exclamation);
-    EXPECT_FALSE(Main().Slots().AnyCurveWindowOpen());
-    EXPECT_TRUE(m_platform.SaveRequests().empty());
-}
-
-TEST_P(ClosingTest, CancelKeepsTheWindowItsTextsAndItsFlag) {
+TEST_P(ClosingTest, AsksAfterTypingCancelKeepsTheWindowAndNoClosesUnsaved) {
     frmCrestCurve& w = NewCurve();
     TypeInto(w.Field("txtG1"), "7");
     m_platform.AnswerMessage(MessageButton::Cancel);
@@ -59,10 +40,20 @@ TEST_P(ClosingTest, CancelKeepsTheWindowItsTextsAndItsFlag) {
     ASSERT_EQ(Main().MdiArea().subWindowList().size(), 1);
     EXPECT_EQ(w.Field("txtG1")->text(), "7");
     EXPECT_TRUE(Changed(w));
-    // Asked again on the next attempt.
-    m_platform.AnswerMessage(MessageButton::No);
-    Close(w);
+    ASSERT_EQ(m_platform.Messages().size(), 1u);
+    const MessageRequest& q = m_platform.Messages().front();
+    EXPECT_EQ(q.text, Question("Untitled"));
+    EXPECT_EQ(q.title, "Gradewise");
+    EXPECT_EQ(q.buttons, MessageButtons::YesNoCancel);
+    EXPECT_EQ(q.defaultButton, MessageButton::Yes);
+    EXPECT_EQ(q.icon, MessageIcon::Exclamation);
+
+    m_platform.AnswerMessage(MessageButton::No);  // asked again on the next attempt
+    GetParam().close(Main(), w);
+    Settle();
     EXPECT_EQ(m_platform.Messages().size(), 2u);
+    EXPECT_FALSE(Main().Slots().AnyCurveWindowOpen());
+    EXPECT_TRUE(m_platform.SaveRequests().empty());
 }
 
 TEST_P(ClosingTest, AnUnchangedWindowClosesWithoutAQuestion) {
@@ -80,30 +71,21 @@ INSTANTIATE_TEST_SUITE_P(
                       Closing{"MainWindow", [](frmMain& m, frmCrestCurve&) { m.close(); }}),
     [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(CloseQuestionTest, YesOnAnUntitledCurveSavesItUnderTheChosenPath) {
-    frmCrestCurve& w = NewCurve();
-    TypeInto(w.Field("txtPVIEval"), "250");
-    const QString path = FilePath("kept.gwf");
-    m_platform.AnswerMessage(MessageButton::Yes);
-    m_platform.AnswerSaveFile(path);
-    Close(w);
-    ASSERT_EQ(m_platform.SaveRequests().size(), 1u);
-    EXPECT_EQ(m_platform.SaveRequests().front().fileName, "untitled");
-    EXPECT_EQ(m_platform.SaveRequests().front().selectedFilter, 1);
-    EXPECT_TRUE(Bytes(path).contains("\"250\""));
-    EXPECT_TRUE(Main().MdiArea().subWindowList().isEmpty());
+TEST_F(CloseQuestionTest, YesOnAnUntitledCurveAsksForAPathAndCancellingThatClosesUnsaved) {
+    for (const bool chosen : {true, false}) {
+        SCOPED_TRACE(chosen ? "path chosen" : "save dialog cancelled");
+        frmCrestCurve& w = NewCurve();
+        TypeInto(w.Field("txtPVIEval"), "250");
+        m_platform.AnswerMessage(MessageButton::Yes);
+        m_platform.AnswerSaveFile(chosen ? std::optional(FilePath("kept.gwf")) : std::nullopt);
+        Close(w);
+        EXPECT_EQ(m_platform.SaveRequests().back().fileName, "untitled");
+        EXPECT_EQ(m_platform.SaveRequests().back().selectedFilter, 1);
+        EXPECT_TRUE(Main().MdiArea().subWindowList().isEmpty());
+    }
+    EXPECT_TRUE(Bytes(FilePath("kept.gwf")).contains("\"250\""));
+    EXPECT_EQ(QDir(FilePath("")).entryList(QDir::Files), QStringList{"kept.gwf"});
     EXPECT_TRUE(RecentShown().isEmpty());
-}
-
-TEST_F(CloseQuestionTest, YesThenCancelledSaveDialogClosesUnsaved) {
-    frmCrestCurve& w = NewCurve();
-    TypeInto(w.Field("txtPVIEval"), "250");
-    m_platform.AnswerMessage(MessageButton::Yes);
-    m_platform.AnswerSaveFile(std::nullopt);
-    Close(w);
-    EXPECT_TRUE(Main().MdiArea().subWindowList().isEmpty());
-    EXPECT_FALSE(Main().Slots().AnyCurveWindowOpen());
-    EXPECT_TRUE(QDir(FilePath("")).isEmpty());
 }
 
 TEST_F(CloseQuestionTest, YesOnASavedCurveNamesItsPathAndWritesWithoutADialog) {
@@ -112,7 +94,7 @@ TEST_F(CloseQuestionTest, YesOnASavedCurveNamesItsPathAndWritesWithoutADialog) {
     TypeInto(w.Field("txtPVIEval"), "99");
     m_platform.AnswerMessage(MessageButton::Yes);
     Close(w);
-    EXPECT_EQ(Messages(), QStringList{"The text in [" + path + "] has changed.\r\nDo you want to save the changes?"});
+    EXPECT_EQ(Messages(), QStringList{Question(path)});
     EXPECT_EQ(m_platform.SaveRequests().size(), 1u);  // the Save As before, none since
     EXPECT_TRUE(Bytes(path).contains("\"99\""));
     EXPECT_TRUE(Main().MdiArea().subWindowList().isEmpty());
@@ -120,8 +102,7 @@ TEST_F(CloseQuestionTest, YesOnASavedCurveNamesItsPathAndWritesWithoutADialog) {
 
 TEST_F(CloseQuestionTest, AFailedWriteIsReportedAndTheWindowStillCloses) {
     QDir(FilePath("")).mkdir("sub");
-    const QString path = FilePath("sub/c.gwf");
-    frmCrestCurve& w = SavedCurve(path);
+    frmCrestCurve& w = SavedCurve(FilePath("sub/c.gwf"));
     ASSERT_TRUE(QDir(FilePath("sub")).removeRecursively());
     TypeInto(w.Field("txtPVIEval"), "1");
     m_platform.AnswerMessage(MessageButton::Yes);
@@ -132,19 +113,11 @@ TEST_F(CloseQuestionTest, AFailedWriteIsReportedAndTheWindowStillCloses) {
     EXPECT_TRUE(Main().MdiArea().subWindowList().isEmpty());
 }
 
-TEST_F(CloseQuestionTest, MouseCommandsInASavedCurveAskNothing) {
-    frmCrestCurve& w = SavedCurve(FilePath("m.gwf"));
-    QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
-    w.findChild<QPushButton*>("cmdClear")->click();
-    Settle();
-    Close(w);
-    EXPECT_TRUE(Messages().isEmpty());
-}
-
-TEST_F(CloseQuestionTest, TypingInTheElevationsWindowOfASavedCurveAsks) {
+TEST_F(CloseQuestionTest, OnlyTypingAsksAfterASaveInTheCurveOrItsElevationsWindow) {
     frmCrestCurve& w = SolvedEnglishCurve();
     SaveAs(FilePath("e.gwf"));
-    ASSERT_FALSE(Changed(w));
+    QTest::mouseClick(w.findChild<QPushButton*>("cmdCalcP"), Qt::LeftButton);
+    ASSERT_FALSE(Changed(w));  // a mouse command
     CalculateElevations(w, [](ElevationsWindow& e) {
         QTest::keyClicks(e.Field("txtVOffset"), "1");
         e.hide();
@@ -153,15 +126,6 @@ TEST_F(CloseQuestionTest, TypingInTheElevationsWindowOfASavedCurveAsks) {
     m_platform.AnswerMessage(MessageButton::No);
     Close(w);
     EXPECT_EQ(Messages().size(), 1);
-}
-
-TEST_F(CloseQuestionTest, SavingAChangedCurveLeavesNothingToAsk) {
-    frmCrestCurve& w = NewCurve();
-    TypeInto(w.Field("txtG1"), "7");
-    m_platform.AnswerSaveFile(FilePath("s.gwf"));
-    Save();
-    Close(w);
-    EXPECT_TRUE(Messages().isEmpty());
 }
 
 TEST_F(CloseQuestionTest, ClosingABackWindowSavesThatWindowNotTheActiveOne) {
@@ -173,7 +137,7 @@ TEST_F(CloseQuestionTest, ClosingABackWindowSavesThatWindowNotTheActiveOne) {
     ASSERT_EQ(Main().ActiveCurveWindow(), &b);
     m_platform.AnswerMessage(MessageButton::Yes);
     Close(a);
-    EXPECT_EQ(Messages().front(), "The text in [" + pathA + "] has changed.\r\nDo you want to save the changes?");
+    EXPECT_EQ(Messages().front(), Question(pathA));
     EXPECT_TRUE(Bytes(pathA).contains("\"11\""));
     EXPECT_FALSE(Bytes(pathA).contains("\"22\""));
     EXPECT_EQ(b.windowTitle(), "Vertical Curve - Metric: Untitled");

@@ -79,7 +79,10 @@ protected:
 
     // Calculate Elevations with its window answered by `script`.
     void CalculateElevations(frmCrestCurve& w, std::function<void(ElevationsWindow&)> script) {
-        m_platform.AnswerDialog([script](QDialog& d) { script(static_cast<ElevationsWindow&>(d)); });
+        m_platform.AnswerDialog([script](QDialog& d) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+            script(static_cast<ElevationsWindow&>(d));
+        });
         w.findChild<QPushButton*>("cmdMoreTOS")->click();
         Settle();
     }
