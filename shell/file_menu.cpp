@@ -28,4 +28,8 @@ void frmMain::mnuSaveAs_Click() { m_files->SaveCurveFileAs(); }
 
 void frmMain::mnuRecentFile_Click(int index) { m_files->OpenRecentFile(index); }
 
+void frmMain::OpenFiles(const QStringList& paths) {
+    for (const QString& path : paths) m_files->OpenNamedFile(path);
+}
+
 }  // namespace gw

@@ -2,6 +2,7 @@
 // frmMain: the frame with the menus, the status bar and the curve windows.
 
 #include <QMainWindow>
+#include <QStringList>
 #include <memory>
 
 #include "files/commands/curve_window_host.h"
@@ -47,6 +48,8 @@ public:
     void mnuSave_Click();
     void mnuSaveAs_Click();
     void mnuRecentFile_Click(int index);
+    // The curve files named at start-up, each opened as Open opens a chosen file.
+    void OpenFiles(const QStringList& paths);
     FileCommands& Files() { return *m_files; }
     RecentFilesMenu& RecentFileMenu() { return *m_recent; }
     void mnuFileExit_Click();

@@ -37,22 +37,21 @@ FileDialogRequest FileCommands::DialogRequest(const QString& fileName) {
 void FileCommands::OpenCurveFile() {
     const std::optional<QString> path = m_platform.GetOpenFileName(m_owner, DialogRequest({}));
     if (!path) return;
-    if (!FileExists(*path)) {
+    OpenNamedFile(*path);
+}
+
+bool FileCommands::OpenNamedFile(const QString& path) {
+    if (!FileExists(path)) {
         ReportMissingFile();
-        return;
+        return false;
     }
-    LoadCurveFile(*path);
+    LoadCurveFile(path);
+    return true;
 }
 
 void FileCommands::OpenRecentFile(int index) {
-    const QString path = m_recent.PathOf(index);
     // The entry stays listed: a file that comes back can be opened from it again.
-    if (!FileExists(path)) {
-        ReportMissingFile();
-        return;
-    }
-    LoadCurveFile(path);
-    m_recent.UpdateRecentFileMenu();
+    if (OpenNamedFile(m_recent.PathOf(index))) m_recent.UpdateRecentFileMenu();
 }
 
 void FileCommands::SaveCurveFile() {

@@ -27,6 +27,10 @@ public:
     void SaveCurveFileAs();
     // A recent-file entry chosen from the menu.
     void OpenRecentFile(int index);
+    // What Open does once a path is chosen, for any other way of naming a file (the
+    // command line): a missing file is reported, an existing one loaded. True when
+    // the file existed.
+    bool OpenNamedFile(const QString& path);
 
     QString ShowSaveAsDialog(const QString& initialName) override;
     void WriteCurveFile(const QString& path, const QString& newTitle) override;

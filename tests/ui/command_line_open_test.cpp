@@ -1,0 +1,81 @@
+// Curve files named when the program starts (a double-click in a file manager):
+// each opens as Open opens a chosen file, and a missing one is reported.
+
+#include <QMdiArea>
+
+#include "file_fixture.h"
+#include "shell/command_line.h"
+
+namespace gw::test {
+namespace {
+
+// A curve given by its PVI at 12+00.0 in English units, as the program saves one.
+const QByteArray kEnglishCurve =
+    "\"\",\"English\",,,,\"0\"\r\n\"104\",\"12\",\"-2\",\"2\",\"400\",\"\",\"\"\r\n"
+    "\"\",\"\",\"\",\"\",\"\",\"\"\r\n#TRUE#,#FALSE#,\"\",\"\"\r\n";
+
+class CommandLineOpenTest : public FileTest {
+protected:
+    int WindowCount() { return int(Main().MdiArea().subWindowList().size()); }
+};
+
+TEST_F(CommandLineOpenTest, TwoNamedFilesOneMissingOpenOneWindowAndOneMessage) {
+    const QString curve = FilePath("crest.gwf");
+    PutBytes(curve, kEnglishCurve);
+    frmMain& main = RestartMain();
+    m_platform.AnswerMessage(MessageButton::Ok);
+    main.OpenFiles({FilePath("gone.gwf"), curve});
+    Settle();
+
+    EXPECT_EQ(Messages(), QStringList{"This file does not exist."});
+    EXPECT_EQ(m_platform.Messages().front().title, "Gradewise");
+    ASSERT_EQ(WindowCount(), 1);
+    frmCrestCurve* opened = main.ActiveCurveWindow();
+    ASSERT_NE(opened, nullptr);
+    EXPECT_EQ(Title(*opened), "Vertical Curve - English: " + curve);
+    EXPECT_EQ(opened->Field("txtPVISTA")->text(), "12");
+    EXPECT_EQ(opened->Field("txtPVIEval")->text(), "104");
+    EXPECT_FALSE(Changed(*opened));
+    // Listed as Open lists it; the missing one is not.
+    EXPECT_EQ(RecentShown(), QStringList{curve});
+}
+
+TEST_F(CommandLineOpenTest, SeveralFilesOpenInTheOrderNamedTheLastOneActive) {
+    PutBytes(FilePath("first.gwf"), kEnglishCurve);
+    PutBytes(FilePath("second.gwf"), kEnglishCurve);
+    Main().OpenFiles({FilePath("first.gwf"), FilePath("second.gwf")});
+    Settle();
+    EXPECT_TRUE(Messages().isEmpty());
+    ASSERT_EQ(WindowCount(), 2);
+    EXPECT_EQ(Title(*Main().ActiveCurveWindow()), "Vertical Curve - English: " + FilePath("second.gwf"));
+    EXPECT_EQ(RecentShown(), QStringList({FilePath("second.gwf"), FilePath("first.gwf")}));
+}
+
+TEST_F(CommandLineOpenTest, AnEmptyArgumentOrAFolderIsAMissingFile) {
+    const QStringList paths = CurveFileArguments({QString(), FilePath("")}, FilePath(""));
+    m_platform.AnswerMessage(MessageButton::Ok);
+    m_platform.AnswerMessage(MessageButton::Ok);
+    Main().OpenFiles(paths);
+    Settle();
+    EXPECT_EQ(Messages(), QStringList({"This file does not exist.", "This file does not exist."}));
+    EXPECT_EQ(WindowCount(), 0);
+    EXPECT_TRUE(RecentShown().isEmpty());
+}
+
+TEST(CurveFileArguments, RelativeNamesAreTakenFromTheStartFolderNotTheCurrentOne) {
+    // Start-up moves the current folder; the names must already be absolute by then.
+    EXPECT_EQ(CurveFileArguments({"a.gwf", "sub/../b.gwf", "./c d.gwf", "/elsewhere/e.gwf"}, "/home/eng/road"),
+              QStringList({"/home/eng/road/a.gwf", "/home/eng/road/b.gwf", "/home/eng/road/c d.gwf",
+                           "/elsewhere/e.gwf"}));
+    EXPECT_TRUE(CurveFileArguments({}, "/home/eng").isEmpty());
+}
+
+TEST(CurveFileArguments, AFileUrlIsItsLocalPathButAPlainNameIsNeverDecoded) {
+    EXPECT_EQ(CurveFileArguments({"file:///home/eng/my%20curve.gwf"}, "/tmp"), QStringList{"/home/eng/my curve.gwf"});
+    // '%', '#' and ':' are ordinary characters in a file name.
+    EXPECT_EQ(CurveFileArguments({"50%20#2.gwf", "/data/a:b.gwf"}, "/tmp"),
+              QStringList({"/tmp/50%20#2.gwf", "/data/a:b.gwf"}));
+}
+
+}  // namespace
+}  // namespace gw::test
