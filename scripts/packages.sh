@@ -2,5 +2,8 @@
 # shellcheck disable=SC2034
 # fonts-liberation makes "Arial", the report's font, resolve to its metric twin.
 BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation)
-TEST_PACKAGES=(libgtest-dev libbenchmark-dev xvfb xauth fonts-liberation poppler-utils)
+# desktop-file-utils, libxml2-utils and shared-mime-info check the installed desktop entry,
+# icon and curve-file type.
+TEST_PACKAGES=(libgtest-dev libbenchmark-dev xvfb xauth fonts-liberation poppler-utils
+  desktop-file-utils libxml2-utils shared-mime-info)
 FUZZ_PACKAGES=(clang libclang-rt-14-dev)
