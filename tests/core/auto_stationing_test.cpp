@@ -211,16 +211,5 @@ TEST(AutoStationingChecksTest, LeaveChecksRunOnlyForInputsOfTheMode) {
     EXPECT_EQ(d.CheckOnLeave("txtPoints"), V{});  // read-only in the Spacing mode
 }
 
-TEST(AutoStationingDialogTest, EveryShowingStartsInIncrementsWithTen) {
-    CurveSheet s = ShownCurve();
-    AutoStationing d = Spacing(s, "11", "0", "0", "5");
-    EXPECT_EQ(d.txtPoints, "0");
-    d.ChooseIncrements();
-    EXPECT_FALSE(d.optSpacing);
-    EXPECT_EQ(d.txtPoints, "10");
-    EXPECT_EQ(d.txtBeginSTA, "0");
-    EXPECT_EQ(d.txtIncSTAM, "0");
-}
-
 }  // namespace
 }  // namespace gw

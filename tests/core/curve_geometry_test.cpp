@@ -61,20 +61,6 @@ TEST(CurveGeometryTest, TurningPointWhereTheSolverPutsIt) {
     EXPECT_FALSE(Curve(1000, 100, 400, 0, 0).RateOfCurvature());
 }
 
-TEST(CurveGeometryTest, ReadsTheSolvedSheet) {
-    // Metric sag from its ends: PVC 1+900 at 250, PVT 2+100 at 251, -2 %: G2 = 3 %.
-    CurveSheet s = test::EndsSheet("Metric", "1", "900", "250", "2", "100", "251", "-2");
-    ASSERT_FALSE(Calculate(s));
-    const CurveGeometry c = ReadCurveGeometry(s);
-    EXPECT_EQ(c.pvc, 1900);
-    EXPECT_EQ(c.length, 200);
-    EXPECT_TRUE(c.metric);
-    // x = 2 * 200 / 5 = 80; 250 - 0.02 * 80 + (0.05 / 400) * 80^2 = 249.2
-    EXPECT_NEAR(*c.TurningPoint(), 80, 1e-9);
-    EXPECT_NEAR(c.ElevationAt(80), 249.2, 1e-9);
-    EXPECT_NEAR(*c.RateOfCurvature(), 40, 1e-9);  // 200 / 5
-}
-
 TEST(CurveGeometryTest, SightDistanceCaseThatGoverned) {
     struct Case {
         double length, g1, g2;

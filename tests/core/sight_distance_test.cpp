@@ -49,18 +49,7 @@ INSTANTIATE_TEST_SUITE_P(
                       SightCase{"English", "-100", "2", "-2", "SSD", ""},
                       SightCase{"English", "-100", "-2", "2", "HSD", ""}));
 
-TEST(SightDistanceTest, EqualGradesTouchNothing) {
-    CurveSheet s = NewCurveSheet("English");
-    s.txtLC = "400";
-    s.txtG1 = s.txtG2 = "1";
-    s.lblSDL = "HSD";
-    s.txtSD = "12.0";
-    ApplySightDistance(s);
-    EXPECT_EQ(s.lblSDL, "HSD");
-    EXPECT_EQ(s.txtSD, "12.0");
-}
-
-TEST(SightDistanceTest, ACrestThenASagChangesTheKind) {
+TEST(SightDistanceTest, ACrestThenASagChangesTheKindAndEqualGradesTouchNothing) {
     CurveSheet s = NewCurveSheet("English");
     s.txtLC = "400";
     s.txtG1 = "2";
@@ -70,6 +59,11 @@ TEST(SightDistanceTest, ACrestThenASagChangesTheKind) {
     s.txtG2 = "4";
     ApplySightDistance(s);
     EXPECT_EQ(s.lblSDL, "HSD");
+    s.txtG2 = "2";
+    s.txtSD = "12.0";
+    ApplySightDistance(s);
+    EXPECT_EQ(s.lblSDL, "HSD");
+    EXPECT_EQ(s.txtSD, "12.0");
 }
 
 }  // namespace
