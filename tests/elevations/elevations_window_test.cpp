@@ -7,7 +7,7 @@ namespace {
 
 using ElevationsWindowTest = ElevationsFixture;
 
-TEST_F(ElevationsWindowTest, FirstShowingCopiesTheEndsWithEmptyRowsAndFeet) {
+TEST_F(ElevationsWindowTest, FirstShowingCopiesTheEndsWithEmptyRowsAndTheCurvesUnits) {
     Show();
     EXPECT_EQ(window.Field("txtPVCSTA")->text(), "10");
     EXPECT_EQ(window.Field("txtPVCSTAM")->text(), "0.0");
@@ -19,9 +19,7 @@ TEST_F(ElevationsWindowTest, FirstShowingCopiesTheEndsWithEmptyRowsAndFeet) {
     EXPECT_TRUE(window.Field("txtPVCSTA")->isReadOnly());
     EXPECT_TRUE(Row("txtTotalTopSlab1", 3)->isReadOnly());
     EXPECT_FALSE(slot.changed);
-}
-
-TEST_F(ElevationsWindowTest, MetricCurvesShowMetres) {
+    window.hide();
     slot.curve.lblMorF = "Metric";
     Show();
     EXPECT_EQ(window.findChild<QLabel*>("lblvoffsetm")->text(), "(m)");
@@ -68,16 +66,6 @@ TEST_F(ElevationsWindowTest, LeavingAWholeStationOfLettersGivesTwoMessages) {
     EXPECT_EQ(Messages(), (QStringList{"Must be numeric.", "Must be >= to PVCSTA."}));
     EXPECT_EQ(QApplication::focusWidget(), Row("txtTOTSTA1", 0));
     EXPECT_EQ(Row("txtTOTSTA1", 0)->text(), "x");
-}
-
-TEST_F(ElevationsWindowTest, PlusPartLimitOnLeaving) {
-    Show();
-    platform.AnswerMessage(MessageButton::Ok);
-    TypeStation(0, "11", "100");
-    QTest::keyClick(Row("txtTOTSTAM1", 0), Qt::Key_Tab);
-    QApplication::processEvents();
-    EXPECT_EQ(Messages(), QStringList{"Measurement must be less than 100 feet."});
-    EXPECT_EQ(QApplication::focusWidget(), Row("txtTOTSTAM1", 0));
 }
 
 TEST_F(ElevationsWindowTest, ClearAllEmptiesRowsAndOffsetsButKeepsTheEnds) {

@@ -29,22 +29,6 @@ TEST(ScriptedPlatformTest, UnansweredQuestionIsReportedAndCancelled) {
     EXPECT_EQ(platform.MessageTexts(), QStringList{"Save?"});
 }
 
-TEST(ScriptedPlatformTest, AnswersAreGivenInTheOrderQueued) {
-    ScriptedPlatform platform;
-    Recorder recorder;
-    recorder.Attach(platform);
-    platform.AnswerMessage(MessageButton::No);
-    platform.AnswerMessage(MessageButton::Yes);
-    platform.AnswerSaveFile(QStringLiteral("/tmp/a.gwf"));
-    platform.AnswerSaveFile(std::nullopt);
-    EXPECT_EQ(platform.ShowMessage(nullptr, {}), MessageButton::No);
-    EXPECT_EQ(platform.ShowMessage(nullptr, {}), MessageButton::Yes);
-    EXPECT_EQ(platform.GetSaveFileName(nullptr, {}), std::optional<QString>("/tmp/a.gwf"));
-    EXPECT_EQ(platform.GetSaveFileName(nullptr, {}), std::nullopt);
-    EXPECT_TRUE(recorder.reports.isEmpty());
-    EXPECT_TRUE(platform.Unused().isEmpty());
-}
-
 TEST(ScriptedPlatformTest, DialogLeftOpenByItsScriptIsReportedAndClosed) {
     ScriptedPlatform platform;
     Recorder recorder;
