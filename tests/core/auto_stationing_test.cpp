@@ -52,55 +52,28 @@ TEST(AutoStationingTest, TenPointsSpreadFromPvcToPvt) {
         "13+11.1111", "13+55.5556", "14+0.0",     "+",          "+",          "+",          "+",
         "+",          "+",          "+",          "+",          "+",          "+"};
     EXPECT_EQ(Stations(s), expected);
-    for (int i = 0; i < 10; ++i) EXPECT_NE(s.elevations.rows[i].txtTotalTopSlab1, "") << i;
     EXPECT_EQ(s.elevations.rows[9].txtTotalTopSlab1, "100.0");
     EXPECT_TRUE(s.elevations.bCalcOK);
 }
 
-TEST(AutoStationingTest, FiftyFootSpacingStopsAtThePvt) {
-    CurveSheet s = ShownCurve();
-    AutoStationing d = Spacing(s, "10", "0", "0", "50");
-    ASSERT_FALSE(d.Accept());
-    ASSERT_FALSE(ApplyAutoStationing(s, d));
-    std::vector<std::string> st = Stations(s);
-    EXPECT_EQ(st[0], "10+0.0");
-    EXPECT_EQ(st[1], "10+50.0");
-    EXPECT_EQ(st[8], "14+0.0");
-    for (int i = 9; i < kRowCount; ++i) EXPECT_EQ(st[i], "+") << i;
-}
-
-TEST(AutoStationingTest, TenFootSpacingFillsTwentyRowsOnly) {
-    CurveSheet s = ShownCurve();
-    AutoStationing d = Spacing(s, "10", "0", "0", "10");
-    ASSERT_FALSE(d.Accept());
-    ASSERT_FALSE(ApplyAutoStationing(s, d));
-    std::vector<std::string> st = Stations(s);
-    EXPECT_EQ(st[0], "10+0.0");
-    EXPECT_EQ(st[19], "11+90.0");
-}
-
-struct IncrementCase {
-    const char* whole;
-    const char* plus;
-    bool accepted;
-};
-
-class IncrementOkTest : public ::testing::TestWithParam<IncrementCase> {};
-
-TEST_P(IncrementOkTest, OkWantsAPositiveIncrement) {
-    CurveSheet s = ShownCurve();
-    AutoStationing d = Spacing(s, "10", "0", GetParam().whole, GetParam().plus);
-    Outcome refused = d.Accept();
-    EXPECT_EQ(!refused, GetParam().accepted);
-    if (refused) {
-        EXPECT_EQ(*refused, (Refusal{"Increment must be greater than 0.", "txtIncSTA"}));
+TEST(AutoStationingTest, SpacingRunsFromTheBeginningToThePvtOrTheLastRow) {
+    struct Row {
+        const char* increment;
+        int lastRow;
+        const char* lastStation;
+    };
+    for (const Row& r : {Row{"50", 8, "14+0.0"}, Row{"10", 19, "11+90.0"}}) {
+        SCOPED_TRACE(r.increment);
+        CurveSheet s = ShownCurve();
+        AutoStationing d = Spacing(s, "10", "0", "0", r.increment);
+        ASSERT_FALSE(d.Accept());
+        ASSERT_FALSE(ApplyAutoStationing(s, d));
+        const std::vector<std::string> st = Stations(s);
+        EXPECT_EQ(st[1], std::string("10+") + r.increment + ".0");
+        EXPECT_EQ(st[r.lastRow], r.lastStation);
+        if (r.lastRow + 1 < kRowCount) EXPECT_EQ(st[r.lastRow + 1], "+");
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Increments, IncrementOkTest,
-                         ::testing::Values(IncrementCase{"0", "0", false}, IncrementCase{"1", "-5", false},
-                                           IncrementCase{"-1", "50", false}, IncrementCase{"0", "5", true},
-                                           IncrementCase{"1", "0", true}));
 
 TEST(AutoStationingOkTest, BeginningStationAtEitherEndPassesInBothUnits) {
     for (const char* units : {"English", "Metric"}) {
@@ -116,24 +89,37 @@ TEST(AutoStationingOkTest, BeginningStationAtEitherEndPassesInBothUnits) {
     }
 }
 
-TEST(AutoStationingOkTest, RefusesABeginningStationOffTheCurve) {
-    CurveSheet s = ShownCurve();
-    AutoStationing d = Spacing(s, "9", "99", "0", "5");
-    EXPECT_EQ(d.Accept(), (Refusal{"Beginning station must be between PVC and PVT stations", "txtBeginSTA"}));
-    d.txtBeginSTAM = "abc";
-    EXPECT_EQ(d.Accept(), (Refusal{"Must be numeric.", "txtBeginSTAM"}));
-}
-
-TEST(AutoStationingOkTest, PointCountsThatCannotBeLaidOutAreRefused) {
-    CurveSheet s = ShownCurve();
+// OK's refusals, one row per rule; the beginning and increment rows are in the Spacing mode.
+TEST(AutoStationingOkTest, RefusesWhatCannotBeLaidOut) {
+    struct Row {
+        const char* field;
+        const char* text;
+        const char* message;  // "" when accepted
+        const char* focus;
+    };
+    const Row rows[] = {
+        {"txtPoints", "25", "Points can not be more than 20.", "txtPoints"},
+        {"txtPoints", "", "Must be numeric.", "txtPoints"},
+        {"txtPoints", "-5", "Points can not be less than 0.", "txtPoints"},
+        {"txtBeginSTA", "9", "Beginning station must be between PVC and PVT stations", "txtBeginSTA"},
+        {"txtBeginSTAM", "abc", "Must be numeric.", "txtBeginSTAM"},
+        {"txtIncSTAM", "0", "Increment must be greater than 0.", "txtIncSTA"},
+        {"txtIncSTAM", "-5", "Increment must be greater than 0.", "txtIncSTA"},  // with 1 whole station
+        {"txtIncSTAM", "5", "", ""},
+    };
+    const CurveSheet s = ShownCurve();
+    for (const Row& r : rows) {
+        SCOPED_TRACE(std::string(r.field) + "=" + r.text);
+        const bool points = std::string(r.field) == "txtPoints";
+        AutoStationing d = points ? NewAutoStationing(s) : Spacing(s, "10", "0", "0", "5");
+        if (std::string(r.text) == "-5" && !points) d.txtIncSTA = "1";
+        *d.Field(r.field) = r.text;
+        const Outcome refused = d.Accept();
+        EXPECT_EQ(refused, *r.message ? Outcome(Refusal{r.message, r.focus}) : Outcome());
+    }
+    // A point count with a half goes to the even neighbour.
     AutoStationing d = NewAutoStationing(s);
-    d.txtPoints = "25";
-    EXPECT_EQ(d.Accept(), (Refusal{"Points can not be more than 20.", "txtPoints"}));
-    d.txtPoints = "";
-    EXPECT_EQ(d.Accept(), (Refusal{"Must be numeric.", "txtPoints"}));
-    d.txtPoints = "-5";
-    EXPECT_EQ(d.Accept(), (Refusal{"Points can not be less than 0.", "txtPoints"}));
-    d.txtPoints = "2.5";  // halves go to the even neighbour
+    d.txtPoints = "2.5";
     EXPECT_FALSE(d.Accept());
     EXPECT_EQ(d.ipoints, 2);
     d.txtPoints = "3.5";
@@ -157,11 +143,6 @@ TEST(AutoStationingFillTest, ZeroCountOrIncrementAndCancelLeaveRowsAlone) {
     EXPECT_FALSE(ApplyAutoStationing(s, d, &filled));
     EXPECT_FALSE(filled);
 
-    d = NewAutoStationing(s);
-    d.Cancel();
-    EXPECT_FALSE(ApplyAutoStationing(s, d, &filled));
-    EXPECT_FALSE(filled);
-
     EXPECT_EQ(s.elevations.rows[0].txtTotalTopSlab1, "101.5");
     EXPECT_FALSE(s.changed);
 }
@@ -180,35 +161,36 @@ TEST(AutoStationingFillTest, OnePointIsThePvcAndNoRowGoesPastNineteen) {
     EXPECT_EQ(Stations(s)[19].substr(0, 3), "10+");
 }
 
+// Leave checks run only for inputs of the mode: Points in Increments, the rest in Spacing.
 TEST(AutoStationingChecksTest, LeaveChecksRunOnlyForInputsOfTheMode) {
     using V = std::vector<std::string_view>;
-    CurveSheet s = ShownCurve();
-    AutoStationing d = NewAutoStationing(s);
-    d.txtPoints = "2x5";
-    EXPECT_EQ(d.CheckOnLeave("txtPoints"), (V{"Must be numeric."}));
-    d.txtPoints = "25";
-    EXPECT_EQ(d.CheckOnLeave("txtPoints"), (V{"Points can not be more than 20."}));
-    d.txtBeginSTA = "x";
-    EXPECT_EQ(d.CheckOnLeave("txtBeginSTA"), V{});  // read-only in the Increments mode
-
-    d = Spacing(s, "x", "0", "0", "0");
-    EXPECT_EQ(d.CheckOnLeave("txtBeginSTA"), (V{"Must be numeric.", "Must be >= to PVCSTA."}));
-    d.txtBeginSTA = "15";
-    EXPECT_EQ(d.CheckOnLeave("txtBeginSTA"), (V{"Must be <= to PVTSTA."}));
-    d.txtBeginSTA = "14";
-    d.txtBeginSTAM = "50";
-    EXPECT_EQ(d.CheckOnLeave("txtBeginSTAM"), (V{"Beginning Station must be between PVC and PVT stations."}));
-    d.txtBeginSTAM = "100";
-    EXPECT_EQ(d.CheckOnLeave("txtBeginSTAM"), (V{"Measurement must be less than 100 feet."}));
-    d.txtBeginSTA = "0";
-    d.txtBeginSTAM = "0";  // a zero station ends the check
-    EXPECT_EQ(d.CheckOnLeave("txtBeginSTAM"), V{});
-    d.txtIncSTAM = "q";
-    EXPECT_EQ(d.CheckOnLeave("txtIncSTAM"), (V{"Must be numeric."}));
-    d.txtIncSTAM = "150";
-    EXPECT_EQ(d.CheckOnLeave("txtIncSTAM"), (V{"Measurement must be less than 100 feet."}));
-    d.txtPoints = "99";
-    EXPECT_EQ(d.CheckOnLeave("txtPoints"), V{});  // read-only in the Spacing mode
+    struct Row {
+        bool spacing;
+        const char* field;
+        const char* text;
+        const char* beginSta;  // the whole station beside it
+        V messages;
+    };
+    const Row rows[] = {
+        {false, "txtPoints", "2x5", "0", {"Must be numeric."}},
+        {false, "txtPoints", "25", "0", {"Points can not be more than 20."}},
+        {false, "txtBeginSTA", "x", "0", {}},
+        {true, "txtBeginSTA", "x", "x", {"Must be numeric.", "Must be >= to PVCSTA."}},
+        {true, "txtBeginSTA", "15", "15", {"Must be <= to PVTSTA."}},
+        {true, "txtBeginSTAM", "50", "14", {"Beginning Station must be between PVC and PVT stations."}},
+        {true, "txtBeginSTAM", "100", "14", {"Measurement must be less than 100 feet."}},
+        {true, "txtBeginSTAM", "0", "0", {}},  // a zero station ends the check
+        {true, "txtIncSTAM", "q", "10", {"Must be numeric."}},
+        {true, "txtIncSTAM", "150", "10", {"Measurement must be less than 100 feet."}},
+        {true, "txtPoints", "99", "10", {}},
+    };
+    const CurveSheet s = ShownCurve();
+    for (const Row& r : rows) {
+        SCOPED_TRACE(std::string(r.field) + "=" + r.text);
+        AutoStationing d = r.spacing ? Spacing(s, r.beginSta, "0", "0", "0") : NewAutoStationing(s);
+        *d.Field(r.field) = r.text;
+        EXPECT_EQ(d.CheckOnLeave(r.field), r.messages);
+    }
 }
 
 }  // namespace

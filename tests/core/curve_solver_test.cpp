@@ -111,7 +111,6 @@ INSTANTIATE_TEST_SUITE_P(Grades, TurningPointTest,
                          ::testing::Values(TurningCase{"0", "-2", "8", "0.0"},    // at the PVC
                                            TurningCase{"2", "0", "12", "0.0"},    // at the PVT
                                            TurningCase{"3", "1", "", "N/A"},      // both positive
-                                           TurningCase{"-1", "-4", "", "N/A"},    // both negative
                                            TurningCase{"0", "0", "0", "0.0"},     // flat: r is 0
                                            TurningCase{"-3", "1", "11", "0.0"}));
 

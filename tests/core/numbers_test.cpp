@@ -28,17 +28,11 @@ TEST_P(ReadNumberTest, ReadsLeadingDecimalNumberOnly) {
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, ReadNumberTest,
-    ::testing::Values(ReadCase{"12.5", 12.5, true}, ReadCase{"12.5abc", 12.5, false},
-                      ReadCase{"", 0, false}, ReadCase{"   ", 0, false}, ReadCase{"abc", 0, false},
-                      ReadCase{"  -3  ", -3, true}, ReadCase{"+4", 4, true}, ReadCase{".5", 0.5, true},
-                      ReadCase{"5.", 5, true}, ReadCase{"-.25", -0.25, true}, ReadCase{"1e3", 1000, true},
-                      ReadCase{"1E+2", 100, true}, ReadCase{"2e-1", 0.2, true}, ReadCase{"1e", 1, false},
-                      ReadCase{"1e+", 1, false}, ReadCase{"-", 0, false}, ReadCase{".", 0, false},
-                      ReadCase{"inf", 0, false}, ReadCase{"nan", 0, false}, ReadCase{"infinity", 0, false},
-                      ReadCase{"0x1A", 0, false}, ReadCase{"1,5", 1, false}, ReadCase{"1 000", 1, false},
-                      ReadCase{"$5", 0, false}, ReadCase{"--5", 0, false}, ReadCase{"12a", 12, false},
-                      ReadCase{"1e400", 0, false}, ReadCase{"-1e400", 0, false},
-                      ReadCase{"1e-400", 0, true}, ReadCase{"\t7\t", 7, true}));
+    ::testing::Values(ReadCase{"12a", 12, false}, ReadCase{"   ", 0, false}, ReadCase{"  -3  ", -3, true},
+                      ReadCase{"+4", 4, true}, ReadCase{"-.25", -0.25, true}, ReadCase{"5.", 5, true},
+                      ReadCase{"1E+2", 100, true}, ReadCase{"1e+", 1, false}, ReadCase{".", 0, false},
+                      ReadCase{"inf", 0, false}, ReadCase{"0x1A", 0, false}, ReadCase{"1,5", 1, false},
+                      ReadCase{"1e400", 0, false}, ReadCase{"1e-400", 0, true}, ReadCase{"\t7\t", 7, true}));
 
 TEST(ReadNumberTest, IgnoresTheUserLocale) {
     // A comma-decimal locale must not change how a field's text reads.
@@ -65,20 +59,13 @@ TEST_P(FormatNumberTest, WritesTheNumberFormat) {
 
 INSTANTIATE_TEST_SUITE_P(
     Values, FormatNumberTest,
-    ::testing::Values(FormatCase{0, "0.0"}, FormatCase{12.5, "12.5"}, FormatCase{3.14159, "3.1416"},
-                      FormatCase{2, "2.0"}, FormatCase{-0.25, "-0.25"},
-                      FormatCase{1234567.891, "1234567.891"}, FormatCase{99.99999, "100.0"},
-                      FormatCase{-0.00001, "0.0"}, FormatCase{-0.0, "0.0"}, FormatCase{0.00005, "0.0001"},
-                      FormatCase{-0.00005, "-0.0001"}, FormatCase{1e-20, "0.0"},
+    ::testing::Values(FormatCase{2, "2.0"}, FormatCase{3.14159, "3.1416"}, FormatCase{1234567.891, "1234567.891"},
+                      FormatCase{99.99999, "100.0"}, FormatCase{-0.00001, "0.0"}, FormatCase{-0.00005, "-0.0001"},
                       FormatCase{1e20, "100000000000000000000.0"}, FormatCase{2.00005, "2.0001"},
-                      FormatCase{99.7000000000000455, "99.7"}, FormatCase{9999.99995, "10000.0"},
-                      FormatCase{std::numeric_limits<double>::infinity(), ""},
-                      FormatCase{-std::numeric_limits<double>::infinity(), ""}, FormatCase{std::nan(""), ""}));
+                      FormatCase{99.7000000000000455, "99.7"}, FormatCase{std::nan(""), ""}));
 
 TEST(PlainNumberTextTest, KeepsFifteenSignificantDigitsWithoutExponent) {
     EXPECT_EQ(PlainNumberText(1.0 / 75), "0.0133333333333333");
-    EXPECT_EQ(PlainNumberText(100), "100");
-    EXPECT_EQ(PlainNumberText(-1.5), "-1.5");
     EXPECT_EQ(PlainNumberText(1e-7), "0.0000001");
     EXPECT_EQ(PlainNumberText(0.1 + 0.2), "0.3");
     EXPECT_EQ(ThroughText(0.1 + 0.2), 0.3);
@@ -87,8 +74,6 @@ TEST(PlainNumberTextTest, KeepsFifteenSignificantDigitsWithoutExponent) {
 
 TEST(FormatWholeNumberTest, NeverWritesMinusZero) {
     EXPECT_EQ(FormatWholeNumber(-0.0), "0");
-    EXPECT_EQ(FormatWholeNumber(-3), "-3");
-    EXPECT_EQ(FormatWholeNumber(12), "12");
     EXPECT_EQ(FormatWholeNumber(1e17), "100000000000000000");
 }
 
