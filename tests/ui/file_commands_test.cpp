@@ -25,16 +25,10 @@ TEST_F(FileCommandsTest, SaveOfAnUntitledCurveWritesItAndTitlesItWithTwoBlanks) 
     EXPECT_EQ(Title(w), "Vertical Curve - Metric:  " + path);
     EXPECT_FALSE(Changed(w));
     EXPECT_TRUE(RecentShown().isEmpty());  // Save never lists a path
-
     ASSERT_EQ(m_platform.SaveRequests().size(), 1u);
     const FileDialogRequest& asked = m_platform.SaveRequests().front();
-    EXPECT_EQ(asked.fileName, "");
-    EXPECT_EQ(asked.title, "");
     EXPECT_EQ(asked.folder, QCoreApplication::applicationDirPath());
     ASSERT_EQ(asked.filters.size(), 2u);
-    EXPECT_EQ(asked.filters[0].description, "All Files (*.*)");
-    EXPECT_EQ(asked.filters[0].pattern, "*.*");
-    EXPECT_EQ(asked.filters[1].description, "Gradewise files (*.gwf)");
     EXPECT_EQ(asked.filters[1].pattern, "*.gwf");
     EXPECT_EQ(asked.selectedFilter, 1);
 
@@ -46,7 +40,6 @@ TEST_F(FileCommandsTest, SaveOfAnUntitledCurveWritesItAndTitlesItWithTwoBlanks) 
     EXPECT_TRUE(Bytes(path).contains("\"12.50\""));
     EXPECT_EQ(QDir(FilePath("")).entryList(QDir::Files), QStringList{"a.gwf"});
     EXPECT_EQ(m_platform.BusySpells(), 2);
-    EXPECT_FALSE(m_platform.Busy());
 }
 
 TEST_F(FileCommandsTest, CancelledSaveLeavesTheCurveUntitledAndWritesNothing) {
@@ -57,7 +50,6 @@ TEST_F(FileCommandsTest, CancelledSaveLeavesTheCurveUntitledAndWritesNothing) {
     EXPECT_EQ(Title(w), "Vertical Curve - English: Untitled");
     EXPECT_TRUE(Changed(w));
     EXPECT_TRUE(QDir(FilePath("")).isEmpty());
-    EXPECT_EQ(m_platform.BusySpells(), 0);
 }
 
 struct SaveAsCase {
@@ -80,44 +72,23 @@ TEST_P(SaveAsTest, TitlesTheCurveWithOneBlankAndListsThePathFirst) {
     EXPECT_EQ(Title(w), "Vertical Curve - English: " + path);
     EXPECT_EQ(Bytes(path), EmptyCurveBytes("English"));
     EXPECT_EQ(RecentShown(), QStringList{path});
-    EXPECT_EQ(m_platform.SaveRequests().back().fileName, "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Windows, SaveAsTest,
                          ::testing::Values(SaveAsCase{"Untitled", false}, SaveAsCase{"SavedWithSave", true}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(FileCommandsTest, NamesAreUsedAsTypedAndAFileNamedUntitledLeavesTheCurveUntitled) {
-    frmCrestCurve& w = NewCurve();
-    SaveAs(FilePath("curve"));
-    EXPECT_EQ(QDir(FilePath("")).entryList(QDir::Files), QStringList{"curve"});
-    EXPECT_TRUE(Title(w).endsWith("/curve"));
-    SaveAs(FilePath("Untitled"));
-    m_platform.AnswerSaveFile(std::nullopt);
-    Save();  // asks for a path again
-    EXPECT_EQ(m_platform.SaveRequests().size(), 3u);
-}
-
-TEST_F(FileCommandsTest, WithoutACurveWindowOnlyOpenDoesAnything) {
+TEST_F(FileCommandsTest, WithoutACurveWindowOnlyOpenAsksAndAMissingFileOrFolderOpensNothing) {
     Main().Menus().mnuSave->trigger();
     Main().Menus().mnuSaveAs->trigger();
     EXPECT_TRUE(m_platform.SaveRequests().empty());
-    m_platform.AnswerMessage(MessageButton::Ok);  // for the missing file
-    EXPECT_EQ(Open(FilePath("none.gwf")), nullptr);
-    ASSERT_EQ(m_platform.OpenRequests().size(), 1u);
-    EXPECT_EQ(m_platform.OpenRequests().front().selectedFilter, 1);
-    EXPECT_EQ(m_platform.OpenRequests().front().fileName, "");
-}
-
-TEST_F(FileCommandsTest, OpeningAMissingFileOrAFolderSaysSoAndOpensNothing) {
     for (const QString& path : {FilePath("missing.gwf"), FilePath("")}) {
         m_platform.AnswerMessage(MessageButton::Ok);
         EXPECT_EQ(Open(path), nullptr);
     }
+    EXPECT_EQ(m_platform.OpenRequests().front().selectedFilter, 1);
     EXPECT_EQ(Messages(), QStringList({"This file does not exist.", "This file does not exist."}));
-    EXPECT_EQ(m_platform.Messages().front().title, "Gradewise");
     EXPECT_TRUE(RecentShown().isEmpty());
-    EXPECT_FALSE(Main().Slots().AnyCurveWindowOpen());
 }
 
 TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
@@ -141,12 +112,10 @@ TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
     ASSERT_NE(opened, nullptr);
     ASSERT_NE(opened, &w);
     EXPECT_TRUE(opened->findChild<QRadioButton*>("optPVCPVT")->isChecked());
-    EXPECT_FALSE(opened->findChild<QRadioButton*>("optPVI")->isChecked());
     EXPECT_TRUE(opened->Field("txtLC")->isReadOnly());  // laid out for the mode
     EXPECT_EQ(CurveFileBytes(opened->GatherSheet()), CurveFileBytes(w.GatherSheet()));  // every text
     EXPECT_EQ(Title(*opened), "Vertical Curve - English: " + path);
     EXPECT_FALSE(Changed(*opened));
-    EXPECT_EQ(RecentShown(), QStringList{path});  // listed once, by Save As
 }
 
 TEST_F(FileCommandsTest, AFourLineFileOpensWithEmptyElevationsInAReusedSlot) {
@@ -164,7 +133,6 @@ TEST_F(FileCommandsTest, AFourLineFileOpensWithEmptyElevationsInAReusedSlot) {
     ASSERT_NE(opened, nullptr);
     EXPECT_EQ(opened->Slot(), 1);
     EXPECT_EQ(opened->Field("txtPVISTAM")->text(), "45.5");
-    EXPECT_EQ(opened->UnitSystem(), "English");
     EXPECT_EQ(Main().Slots().Elevations(1).rows[0].txtTOTSTA1, "");
     EXPECT_EQ(Main().Slots().Elevations(1).txtVOffset, "");
     // Saved again unchanged, it is the full eight-line image.
@@ -180,8 +148,6 @@ TEST_F(FileCommandsTest, UnknownUnitsKeepTheNewWindowsTitleAndShowAsStored) {
     EXPECT_EQ(Title(*opened), "Vertical Curve");
     EXPECT_EQ(opened->UnitSystem(), "Imperial");
     EXPECT_EQ(opened->Field("txtPVISTAM")->text(), "7");  // not cleared by a mode click
-    EXPECT_FALSE(opened->findChild<QRadioButton*>("optPVI")->isChecked());
-    EXPECT_FALSE(opened->findChild<QRadioButton*>("optPVCPVT")->isChecked());
 }
 
 TEST_F(FileCommandsTest, TheSameFileOpensTwiceInTwoWindows) {
@@ -191,7 +157,6 @@ TEST_F(FileCommandsTest, TheSameFileOpensTwiceInTwoWindows) {
     frmCrestCurve* b = Open(FilePath("twice.gwf"));
     ASSERT_TRUE(a && b);
     EXPECT_NE(a->Slot(), b->Slot());
-    EXPECT_EQ(Main().MdiArea().subWindowList().size(), 3);
     EXPECT_EQ(RecentShown(), QStringList{FilePath("twice.gwf")});
 }
 
@@ -265,8 +230,6 @@ TEST_F(FileCommandsTest, SaveAsIntoAMissingFolderStillTitlesAndListsThePath) {
     m_platform.AnswerMessage(MessageButton::Ok);
     SaveAs(path);
     EXPECT_EQ(m_platform.Messages().size(), 1u);
-    EXPECT_EQ(m_platform.Messages().front().icon, MessageIcon::Exclamation);
-    EXPECT_FALSE(m_platform.Messages().front().text.isEmpty());
     EXPECT_EQ(Title(w), "Vertical Curve - Metric: " + path);
     EXPECT_EQ(RecentShown(), QStringList{path});
     EXPECT_TRUE(Changed(w));

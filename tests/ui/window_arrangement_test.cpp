@@ -33,8 +33,6 @@ INSTANTIATE_TEST_SUITE_P(
                  {{0, 0, 300, 33}, {0, 33, 300, 33}, {0, 66, 300, 34}}},
         TileCase{"VerticalSetsColumnsSideBySide", TileDirection::Vertical, 2, {10, 20, 601, 50},
                  {{10, 20, 300, 50}, {310, 20, 301, 50}}},
-        TileCase{"OneWindowTakesTheWholeArea", TileDirection::Vertical, 1, {0, 0, 80, 60}, {{0, 0, 80, 60}}},
-        TileCase{"NoWindowsNoTiles", TileDirection::Horizontal, 0, {0, 0, 80, 60}, {}},
         TileCase{"EmptyAreaNoTiles", TileDirection::Horizontal, 2, {0, 0, 0, 0}, {}}),
     [](const auto& info) { return std::string(info.param.name); });
 
