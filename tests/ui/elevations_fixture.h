@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "core/curve_solver.h"
+#include "tests/core/sheet_builders.h"
 #include "platform/scripted_platform.h"
 #include "ui/elevations/auto_station_dialog.h"
 #include "ui/elevations/elevations_slot.h"
@@ -31,27 +32,14 @@ class ElevationsFixture : public ::testing::Test {
 protected:
     ElevationsFixture() {
         platform.OnUnexpected([](const QString& what) { ADD_FAILURE() << what.toStdString(); });
-        slot.curve = NewCurveSheet("English");
-        slot.curve.txtPVISTA = "12";
-        slot.curve.txtPVISTAM = "0";
-        slot.curve.txtPVIEval = "104";
-        slot.curve.txtG1 = "2";
-        slot.curve.txtG2 = "-2";
-        slot.curve.txtLC = "400";
+        slot.curve = PviSheet("English", "12", "0", "104", "2", "-2", "400");
         EXPECT_FALSE(Calculate(slot.curve));
     }
 
     ~ElevationsFixture() override {
         window.hide();
         dialog.hide();
-        EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty() || NoVisibleWindows());
-    }
-
-    static bool NoVisibleWindows() {
-        for (QWidget* w : QApplication::topLevelWidgets()) {
-            if (w->isVisible()) return false;
-        }
-        return true;
+        for (QWidget* w : QApplication::topLevelWidgets()) EXPECT_FALSE(w->isVisible()) << w->objectName().toStdString();
     }
 
     void Show() {
@@ -62,6 +50,7 @@ protected:
 
     QLineEdit* Row(const char* name, int row) { return window.RowField(name, row); }
     QString Elevation(int row) { return Row("txtTotalTopSlab1", row)->text(); }
+    QStringList Messages() const { return platform.MessageTexts(); }
 
     void TypeStation(int row, const char* whole, const char* plus) {
         QLineEdit* w = Row("txtTOTSTA1", row);
@@ -79,8 +68,6 @@ protected:
         b->click();
         QApplication::processEvents();
     }
-
-    QStringList Messages() const { return platform.MessageTexts(); }
 
     ScriptedPlatform platform;
     FakeSlot slot;
