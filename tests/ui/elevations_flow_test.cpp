@@ -1,7 +1,10 @@
 // Calculate Elevations through the real main window: the slot's elevations window,
 // what it keeps while hidden and what empties it.
 
+#include <QRadioButton>
+
 #include "file_fixture.h"
+#include "ui/elevations/auto_station_dialog.h"
 
 namespace gw::test {
 namespace {
@@ -13,7 +16,19 @@ protected:
         e.RowField("txtTOTSTAM1", row)->setFocus(Qt::TabFocusReason);
         QTest::keyClicks(e.RowField("txtTOTSTAM1", row), plus);
     }
-    static void PressOK(ElevationsWindow& e) { e.findChild<QPushButton*>("cmdOK")->click(); }
+    static void Press(QWidget& w, const char* button) {
+        w.findChild<QPushButton*>(button)->click();
+        QApplication::processEvents();
+    }
+    static void PressOK(ElevationsWindow& e) { Press(e, "cmdOK"); }
+    // Queues the auto-station dialog's answer, then presses AutoStationing.
+    void AutoStation(ElevationsWindow& e, std::function<void(AutoStationDialog&)> answer) {
+        m_platform.AnswerDialog([answer](QDialog& d) {
+            EXPECT_TRUE(QTest::qWaitForWindowActive(&d));
+            answer(static_cast<AutoStationDialog&>(d));
+        });
+        Press(e, "cmdAutoStation");
+    }
     const ElevationTable& Rows(const frmCrestCurve& w) { return Main().Slots().Elevations(w.Slot()); }
 };
 
@@ -70,6 +85,48 @@ TEST_F(ElevationsFlowTest, AFailedCalcStillOpensTheWindowWhenThePvcHoldsNumbers)
     CalculateElevations(w, [](ElevationsWindow& e) { PressOK(e); });
     EXPECT_EQ(Messages(), QStringList{"G2 needs to be entered."});
     EXPECT_TRUE(m_platform.ShownDialogs().contains("frmTS"));
+}
+
+// The rules of the run and of auto-stationing are the core's; these show the windows
+// keep or close on them and show the rows.
+TEST_F(ElevationsFlowTest, AStationBeforeThePvcKeepsTheWindowOpenOnTheRow) {
+    frmCrestCurve& w = SolvedEnglishCurve();
+    m_platform.AnswerMessage(MessageButton::Ok);
+    CalculateElevations(w, [](ElevationsWindow& e) {
+        TypeRow(e, 0, "11", "0");
+        e.RowField("txtTOTSTA1", 1)->setText("9");  // as a loaded curve could hold it
+        e.RowField("txtTOTSTAM1", 1)->setText("50");
+        PressOK(e);
+        EXPECT_TRUE(e.isVisible());
+        EXPECT_EQ(e.RowField("txtTotalTopSlab1", 0)->text(), "101.5");
+        EXPECT_EQ(QApplication::focusWidget(), e.RowField("txtTOTSTAM1", 1));
+        e.close();
+    });
+    EXPECT_EQ(Messages(), QStringList{"Top of Slab Station must be between PVC and PVT stations."});
+}
+
+TEST_F(ElevationsFlowTest, AutoStationingFillsTheRowsOnOkAndKeepsItsDialogOnARefusal) {
+    frmCrestCurve& w = SolvedEnglishCurve();
+    m_platform.AnswerMessage(MessageButton::Ok);
+    CalculateElevations(w, [this](ElevationsWindow& e) {
+        AutoStation(e, [](AutoStationDialog& d) {
+            EXPECT_EQ(d.Field("txtPoints")->text(), "10");
+            Press(d, "OKButton");
+        });
+        EXPECT_EQ(e.RowField("txtTOTSTA1", 9)->text(), "14");
+        EXPECT_EQ(e.RowField("txtTotalTopSlab1", 9)->text(), "100.0");
+        AutoStation(e, [](AutoStationDialog& d) {
+            d.findChild<QRadioButton*>("optSpacing")->click();
+            d.Field("txtIncSTAM")->setText("-5");
+            Press(d, "OKButton");
+            EXPECT_TRUE(d.isVisible());
+            EXPECT_EQ(QApplication::focusWidget(), d.Field("txtIncSTA"));
+            Press(d, "CancelButton");
+        });
+        EXPECT_EQ(e.RowField("txtTOTSTA1", 9)->text(), "14");  // Cancel leaves the rows
+        PressOK(e);
+    });
+    EXPECT_EQ(Messages(), QStringList{"Increment must be greater than 0."});
 }
 
 }  // namespace
