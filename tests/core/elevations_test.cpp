@@ -78,16 +78,6 @@ TEST(ElevationRunTest, StopsAtAStationBeforeThePvc) {
     EXPECT_TRUE(ConfirmElevations(s));  // OK refuses to hide
 }
 
-TEST(ElevationRunTest, StationsAtBothEndsPassTheRangeCheck) {
-    CurveSheet s = ShownCurve();
-    SetRow(s, 0, "10", "0");
-    SetRow(s, 1, "14", "0");
-    SetRow(s, 2, "14", "0.0001");
-    Outcome stopped = CalculateTOS(s);
-    ASSERT_TRUE(stopped);
-    EXPECT_EQ(stopped->row, 2);
-}
-
 TEST(ElevationRunTest, ZeroLengthLeavesElevationsEmpty) {
     CurveSheet s = ShownCurve();
     s.txtLC = "";

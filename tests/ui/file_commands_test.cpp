@@ -52,31 +52,16 @@ TEST_F(FileCommandsTest, CancelledSaveLeavesTheCurveUntitledAndWritesNothing) {
     EXPECT_TRUE(QDir(FilePath("")).isEmpty());
 }
 
-struct SaveAsCase {
-    const char* name;
-    bool savedFirst;  // saved with Save before, so titled with two blanks
-};
-
-void PrintTo(const SaveAsCase& c, std::ostream* os) { *os << c.name; }
-
-class SaveAsTest : public FileCommandsTest, public ::testing::WithParamInterface<SaveAsCase> {};
-
-TEST_P(SaveAsTest, TitlesTheCurveWithOneBlankAndListsThePathFirst) {
+TEST_F(FileCommandsTest, SaveAsOfASavedCurveTitlesItWithOneBlankAndListsThePathFirst) {
     frmCrestCurve& w = NewCurve(false);
-    if (GetParam().savedFirst) {
-        m_platform.AnswerSaveFile(FilePath("first.gwf"));
-        Save();
-    }
+    m_platform.AnswerSaveFile(FilePath("first.gwf"));
+    Save();  // titled with two blanks
     const QString path = FilePath("b.gwf");
     SaveAs(path);
     EXPECT_EQ(Title(w), "Vertical Curve - English: " + path);
     EXPECT_EQ(Bytes(path), EmptyCurveBytes("English"));
     EXPECT_EQ(RecentShown(), QStringList{path});
 }
-
-INSTANTIATE_TEST_SUITE_P(Windows, SaveAsTest,
-                         ::testing::Values(SaveAsCase{"Untitled", false}, SaveAsCase{"SavedWithSave", true}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(FileCommandsTest, WithoutACurveWindowOnlyOpenAsksAndAMissingFileOrFolderOpensNothing) {
     Main().Menus().mnuSave->trigger();
@@ -95,13 +80,10 @@ TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
     frmCrestCurve& w = NewCurve(false);
     QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
     Settle();
-    TypeInto(w.Field("txtG1"), "2");
-    TypeInto(w.Field("txtPVCSTA"), "10");
-    TypeInto(w.Field("txtPVCSTAM"), "0");
-    TypeInto(w.Field("txtPVCEval"), "100");
-    TypeInto(w.Field("txtPVTSTA"), "14");
-    TypeInto(w.Field("txtPVTSTAM"), "0");
-    TypeInto(w.Field("txtPVTEval"), "100");
+    for (auto [name, text] : {std::pair{"txtG1", "2"}, {"txtPVCSTA", "10"}, {"txtPVCSTAM", "0"}, {"txtPVCEval", "100"},
+                              {"txtPVTSTA", "14"}, {"txtPVTSTAM", "0"}, {"txtPVTEval", "100"}}) {
+        TypeInto(w.Field(name), text);
+    }
     QTest::keyClick(w.Field("txtPVTEval"), Qt::Key_Return);
     ASSERT_EQ(w.Field("txtLC")->text(), "400.0");
     const QString path = FilePath("pvc.gwf");
@@ -139,15 +121,6 @@ TEST_F(FileCommandsTest, AFourLineFileOpensWithEmptyElevationsInAReusedSlot) {
     Save();
     EXPECT_TRUE(Bytes(FilePath("four.gwf")).startsWith(fourLines));
     EXPECT_EQ(Bytes(FilePath("four.gwf")).count("\r\n"), 8);
-}
-
-TEST_F(FileCommandsTest, UnknownUnitsKeepTheNewWindowsTitleAndShowAsStored) {
-    PutBytes(FilePath("odd.gwf"), "\"\",\"Imperial\",,,,\"7\"\r\n");
-    frmCrestCurve* opened = Open(FilePath("odd.gwf"));
-    ASSERT_NE(opened, nullptr);
-    EXPECT_EQ(Title(*opened), "Vertical Curve");
-    EXPECT_EQ(opened->UnitSystem(), "Imperial");
-    EXPECT_EQ(opened->Field("txtPVISTAM")->text(), "7");  // not cleared by a mode click
 }
 
 TEST_F(FileCommandsTest, TheSameFileOpensTwiceInTwoWindows) {

@@ -127,18 +127,6 @@ TEST_P(EndingTest, ClosesEveryCurveThenEndsTheProgram) {
     EXPECT_EQ(ended.count(), 1);
 }
 
-TEST_P(EndingTest, KeepsRunningWhenACurveRefusesToClose) {
-    frmCrestCurve& stubborn = NewCurve();
-    NewCurve(false);
-    RefuseToClose(&stubborn);
-    QSignalSpy ended(&Main(), &frmMain::programEnded);
-    GetParam().act(Main());
-    Settle();
-    EXPECT_TRUE(Main().isVisible());
-    EXPECT_EQ(Main().MdiArea().subWindowList().size(), 1);
-    EXPECT_EQ(ended.count(), 0);
-}
-
 INSTANTIATE_TEST_SUITE_P(Frame, EndingTest,
                          ::testing::Values(Ending{"CloseBox", [](frmMain& m) { m.close(); }},
                                            Ending{"Exit", [](frmMain& m) { m.Menus().mnuFileExit->trigger(); }}),

@@ -94,20 +94,5 @@ TEST_F(NewCurveTest, ClosedSlotIsReusedLowestFirstThenTheTablesGrow) {
     EXPECT_EQ(Main().Slots().Count(), 5);  // slot 0 is never handed out
 }
 
-TEST_F(NewCurveTest, ReusedSlotStartsWithEmptyElevationsAndUnchanged) {
-    frmCrestCurve& first = NewCurve();
-    Main().Slots().Elevations(1).rows[3].txtTOTSTA1 = "12";
-    ClickInto(first.Field("txtG1"));
-    QTest::keyClick(first.Field("txtG1"), Qt::Key_5);
-    m_platform.AnswerMessage(MessageButton::No);  // closed unsaved
-    first.parentWidget()->close();
-    Settle();
-
-    frmCrestCurve& again = NewCurve();
-    ASSERT_EQ(again.Tag(), QStringLiteral("1"));
-    EXPECT_FALSE(Main().Slots().State(1).changed);
-    EXPECT_TRUE(Main().Slots().Elevations(1).rows[3].txtTOTSTA1.empty());
-}
-
 }  // namespace
 }  // namespace gw::test
