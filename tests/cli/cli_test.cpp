@@ -1,13 +1,97 @@
-// solve, autostation and report: the curve file or JSON they write, the dialogs'
-// messages on stderr and the documented exit statuses.
+// Each command of the command-line tool: the curve file, JSON, table, plot or verdict
+// it writes, the dialogs' messages on stderr and the documented exit statuses. The
+// numbers are the core's and tested there.
+#include <gtest/gtest.h>
+
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
-#include "cli_run.h"
+#include "cli/cli.h"
+#include "core/curve_file.h"
+#include "core/curve_sheet.h"
 #include "core/curve_solver.h"
 
 namespace gw::cli::test {
 namespace {
+
+// What the command-line tool, run in this process, exits with and prints.
+struct Result {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+Result RunCli(std::vector<std::string> args) {
+    args.insert(args.begin(), "gradewise-cli");
+    std::vector<char*> argv;
+    for (std::string& a : args) argv.push_back(a.data());
+    std::ostringstream out, err;
+    const int status = Run(static_cast<int>(argv.size()), argv.data(), out, err);
+    return {status, out.str(), err.str()};
+}
+
+// The exit status of the real program run with `args`.
+int ProcessStatus(const std::string& args) {
+    const int raw = std::system((std::string(GW_CLI_PATH) + " " + args + " >/dev/null 2>&1").c_str());
+    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+}
+
+std::string Example(const char* name) { return std::string(GW_EXAMPLES_DIR) + "/" + name; }
+
+std::string LastLine(const std::string& text) {
+    const size_t end = text.find_last_not_of('\n');
+    return text.substr(text.rfind('\n', end) + 1, end - text.rfind('\n', end));
+}
+
+std::string Read(const std::string& path) {
+    std::ifstream in(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+class CliTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
+        m_dir = std::filesystem::temp_directory_path() /
+                ("gw_cli_" + std::to_string(::getpid()) + "_" + info->test_suite_name() + "_" + info->name());
+        std::filesystem::create_directories(m_dir);
+    }
+    void TearDown() override { std::filesystem::remove_all(m_dir); }
+
+    std::string Path(const std::string& name) const { return (m_dir / name).string(); }
+
+    // The sheet written as a curve file of its own.
+    std::string Write(const CurveSheet& sheet) {
+        const std::string path = Path("curve" + std::to_string(m_files++) + ".gwf");
+        std::ofstream(path, std::ios::binary) << CurveFileBytes(sheet);
+        return path;
+    }
+    // A curve in the PVI mode, written as a curve file.
+    std::string Pvi(const char* units, const char* sta, const char* stam, const char* elev, const char* g1,
+                    const char* g2, const char* lc) {
+        CurveSheet s = NewCurveSheet(units);
+        s.txtPVISTA = sta;
+        s.txtPVISTAM = stam;
+        s.txtPVIEval = elev;
+        s.txtG1 = g1;
+        s.txtG2 = g2;
+        s.txtLC = lc;
+        return Write(s);
+    }
+    // PVI 12+00 at 104, +2 % to -2 %, 400 ft: PVC 10+00 at 100, PVT 14+00.
+    std::string EnglishCrest(const char* stam = "0") { return Pvi("English", "12", stam, "104", "2", "-2", "400"); }
+
+    std::filesystem::path m_dir;
+    int m_files = 0;
+};
+
 
 TEST_F(CliTest, SolveWritesTheCurveFileAsSaveWouldOrItsJson) {
     const std::string file = EnglishCrest();
@@ -62,7 +146,7 @@ TEST_F(CliTest, AutostationByPointsAndBySpacing) {
     EXPECT_EQ(refused.err, "Points can not be more than 20.\n");
 }
 
-TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwo) {
+TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
     const std::string file = EnglishCrest();
     const std::vector<std::vector<std::string>> bad = {
         {},
@@ -71,13 +155,23 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwo) {
         {"autostation", file, "--points", "3", "--begin", "1+0", "--increment", "0+5"},
         {"solve", m_dir.string()},
         {"solve", file, "-o", Path("no/such/dir.gwf")},
+        {"table", file, "--every", "0+0"},
+        {"table", file, "--every", "0+0.001"},  // 400 ft / 0.001 ft: 400000 rows
+        {"plot", file, "--csv"},
+        {"check", file, "--speed", "fast"},
     };
     for (const auto& args : bad) {
         Result r = RunCli(args);
         EXPECT_EQ(r.status, kUsage) << (args.empty() ? "(none)" : args[0]) << " " << r.err;
         EXPECT_NE(r.err, "");
+        EXPECT_EQ(r.out, "");
     }
     EXPECT_NE(RunCli({"solve", Path("missing.gwf")}).err.find("No such file"), std::string::npos);
+    EXPECT_EQ(RunCli({"check", file, "--speed", "81"}).err,
+              "gradewise-cli: a design speed of 81 mph is outside the design table (15 to 80 mph)\n");
+    EXPECT_EQ(RunCli({"table", file}).err,
+              "gradewise-cli: table needs --every WHOLE+PLUS, for example --every 0+50\n"
+              "Try 'gradewise-cli table --help'.\n");
 }
 
 TEST_F(CliTest, VersionHelpAndTheProcessExitStatus) {
@@ -125,6 +219,115 @@ TEST_F(CliTest, ReportPdfHasOnePagePerCopy) {
 
     EXPECT_EQ(RunCli({"report", Example("metric-sag.gwf"), "--pdf", pdf, "--copies", "x"}).status, kUsage);
     EXPECT_EQ(RunCli({"report", Example("metric-sag.gwf"), "--pdf", Path("no/r.pdf")}).status, kUsage);
+}
+
+TEST_F(CliTest, JsonAddsKTurningPointElevationAndSightDistanceCase) {
+    struct Case {
+        std::vector<std::string> curve;  // units, PVI station, plus, elevation, G1, G2, L
+        const char* k;
+        const char* tpElevation;
+        const char* sightCase;
+        const char* sightDistance;
+    } cases[] = {
+        // K = 400 / 4; TP x = 200: 100 + 4 - 2 = 102; S = sqrt(400 * 1329 / 4) = 364.5545 <= L
+        {{"English", "12", "0", "104", "2", "-2", "400"}, "100.0", "102.0", "S<L", "364.5545"},
+        // A = 1.5: the headlights are never stopped; K = 800 / 1.5
+        {{"English", "3", "0", "50", "-1", "0.5", "800"}, "533.3333", "51.3333", "S>L",
+         "unlimited: with A of 1.75 % or less the headlight beam never meets the road"},
+    };
+    for (const Case& c : cases) {
+        const auto& v = c.curve;
+        const Result r = RunCli({"solve", "--json", Pvi(v[0].c_str(), v[1].c_str(), v[2].c_str(), v[3].c_str(),
+                                                     v[4].c_str(), v[5].c_str(), v[6].c_str())});
+        ASSERT_EQ(r.status, kDone) << r.err;
+        const std::string tail = std::string("  \"K\": \"") + c.k + "\",\n  \"turningPointElevation\": \"" +
+                                 c.tpElevation + "\",\n  \"sightDistanceCase\": \"" + c.sightCase +
+                                 "\",\n  \"sightDistance\": \"" + c.sightDistance + "\"\n}\n";
+        ASSERT_GE(r.out.size(), tail.size());
+        EXPECT_EQ(r.out.substr(r.out.size() - tail.size()), tail) << v[4] << " " << v[5] << " " << v[6];
+    }
+}
+
+TEST_F(CliTest, TableOfTheBundledCrestWithItsOffsets) {
+    // 100 + 0.02 x - 0.00005 x^2 + 0.5 + 12 * -0.02; x = 50: 100.875 + 0.26 = 101.135
+    const Result r = RunCli({"table", Example("english-crest.gwf"), "--every", "0+50"});
+    ASSERT_EQ(r.status, kDone) << r.err;
+    EXPECT_EQ(r.out,
+              "Elevations include a vertical offset of 0.5 and a horizontal offset of 12.0 at -2.0 % cross slope.\n"
+              "Station  Distance (ft)  Grade (%)  Elevation (ft)  Point\n"
+              "10+00.0            0.0        2.0          100.26  PVC\n"
+              "10+50.0           50.0        1.5         101.135\n"
+              "11+00.0          100.0        1.0          101.76\n"
+              "11+50.0          150.0        0.5         102.135\n"
+              "12+00.0          200.0        0.0          102.26  TP\n"
+              "12+50.0          250.0       -0.5         102.135\n"
+              "13+00.0          300.0       -1.0          101.76\n"
+              "13+50.0          350.0       -1.5         101.135\n"
+              "14+00.0          400.0       -2.0          100.26  PVT\n");
+}
+
+TEST_F(CliTest, TableAsCsvWithoutTheTwentyRowLimit) {
+    // Metric sag, PVC 1+900 at 250, -2 % to +3 % over 200 m, no offsets:
+    // every 0+005 gives 39 stations between the ends, plus PVC and PVT; the low point
+    // (x = 80) is one of them.
+    const std::string out = Path("t.csv");
+    const Result r = RunCli({"table", Example("metric-sag.gwf"), "--every", "0+5", "--csv", "-o", out});
+    ASSERT_EQ(r.status, kDone) << r.err;
+    const std::string csv = Read(out);
+    EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 1 + 41);
+    EXPECT_EQ(csv.substr(0, csv.find('\n', csv.find('\n') + 1) + 1),
+              "Station,Distance (m),Grade (%),Elevation (m),Point\n1+900.0,0.0,-2.0,250.0,PVC\n");
+    // x = 80: grade -2 + 5 * 80 / 200 = 0; 250 - 1.6 + 0.8 = 249.2
+    EXPECT_NE(csv.find("\n1+980.0,80.0,0.0,249.2,TP\n"), std::string::npos);
+    EXPECT_EQ(LastLine(csv), "2+100.0,200.0,3.0,251.0,PVT");
+}
+
+TEST_F(CliTest, CheckVerdictsAgainstHandWorkedMinimumLengths) {
+    struct Case {
+        std::string file;
+        const char* speed;
+        int status;
+        const char* minimumLine;
+        const char* verdict;
+    } cases[] = {
+        // crest A = 4, L = 400, 50 mph, S = 425: 4 * 425^2 / 2158 = 334.8 < S, so 850 - 539.5
+        {Example("english-crest.gwf"), "50", kDone, "Minimum length, current eye and object heights (C = 2158): 310.5 ft (S>L)",
+         "Long enough: L = 400.0 ft is at least the 310.5 ft needed at 50 mph."},
+        // 52 mph takes the 55 mph row, S = 495: 990 - 539.5 = 450.5
+        {Example("english-crest.gwf"), "52", kTooShort, "Minimum length, current eye and object heights (C = 2158): 450.5 ft (S>L)",
+         "Too short: L = 400.0 ft is less than the 450.5 ft needed at 55 mph."},
+    };
+    for (const Case& c : cases) {
+        const Result r = RunCli({"check", c.file, "--speed", c.speed});
+        EXPECT_EQ(r.status, c.status) << c.speed << r.err;
+        EXPECT_NE(r.out.find(std::string(c.minimumLine) + "\n"), std::string::npos) << r.out;
+        EXPECT_EQ(LastLine(r.out), c.verdict);
+    }
+}
+
+TEST_F(CliTest, PlotLabelsTheCurveAndDrawsTheRows) {
+    const std::string out = Path("p.svg");
+    const Result r = RunCli({"plot", Example("english-crest.gwf"), "-o", out});
+    ASSERT_EQ(r.status, kDone) << r.err;
+    EXPECT_EQ(r.out, "");
+    const std::string svg = Read(out);
+    EXPECT_EQ(svg.rfind("<svg xmlns=\"http://www.w3.org/2000/svg\"", 0), 0u);
+    EXPECT_EQ(LastLine(svg), "</svg>");
+    for (const char* text : {">Profile of english-crest.gwf<", ">PVC 10+00.0<", ">High point 12+00.0<", "K = 100.0"}) {
+        EXPECT_NE(svg.find(text), std::string::npos) << text;
+    }
+    // Five elevation rows in the file, each one point in the rows' colour (and one more
+    // in the legend).
+    const std::string rowFill = "fill=\"#d9661f\"";
+    size_t rows = 0;
+    for (size_t at = 0; (at = svg.find(rowFill, at)) != std::string::npos; at += rowFill.size()) ++rows;
+    EXPECT_EQ(rows, 5u + 1);
+}
+
+TEST_F(CliTest, ARefusedCurveExitsOne) {
+    const Result zero = RunCli({"plot", Pvi("English", "12", "0", "104", "2", "-2", "0")});
+    EXPECT_EQ(zero.status, kRefused);
+    EXPECT_EQ(zero.err, "gradewise-cli: plot needs a length of curve greater than 0\n");
 }
 
 }  // namespace

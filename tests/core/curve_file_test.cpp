@@ -5,8 +5,6 @@
 #include <array>
 #include <random>
 
-#include "core/curve_solver.h"
-#include "core/elevations.h"
 #include "sheet_builders.h"
 
 namespace gw {
@@ -57,19 +55,6 @@ TEST(CurveFileWriteTest, StoresTextsUnchangedAndTheModeAsOptions) {
     EXPECT_EQ(bytes.substr(bytes.size() - 2), "\r\n");
 }
 
-TEST(CurveFileReadTest, LoadingRestoresThePvcPvtModeWithEveryText) {
-    CurveSheet s = test::EndsSheet("English", "8", "0", "96", "12", "0", "96", "2");
-    ASSERT_FALSE(Calculate(s));
-    ASSERT_FALSE(ActivateElevations(s));
-    s.elevations.rows[2] = {"9", "0", "x"};
-    CurveSheet loaded = LoadStoredCurve(ParseCurveFile(CurveFileBytes(s)), "Metric");
-    EXPECT_TRUE(loaded.optPVCPVT && !loaded.optPVI);
-    EXPECT_FALSE(loaded.changed);
-    EXPECT_EQ(CurveFileBytes(loaded), CurveFileBytes(s));
-    // The window's own station copies are not part of the file.
-    EXPECT_EQ(loaded.elevations.txtPVCSTA, "");
-}
-
 // Odd files the parser reads without failing: the first five texts of each.
 TEST(CurveFileReadTest, OddFilesReadValueByValue) {
     struct Row {
@@ -106,19 +91,6 @@ TEST(CurveFileReadTest, BothOptionsTrueEndInThePviModeCleared) {
     EXPECT_TRUE(loaded.optPVI);
     EXPECT_FALSE(loaded.optPVCPVT);
     EXPECT_EQ(loaded.txtPVISTA, "");  // the PVI click cleared what was stored
-}
-
-TEST(CurveFileReadTest, GarbageNeverHangsOrCrashes) {
-    std::mt19937 rng(12345);
-    for (int round = 0; round < 200; ++round) {
-        std::string bytes(static_cast<size_t>(rng() % 2000), '\0');
-        for (char& c : bytes) c = static_cast<char>(rng() % 256);
-        CurveSheet loaded = LoadStoredCurve(ParseCurveFile(bytes), "Metric");
-        EXPECT_FALSE(loaded.optPVI && loaded.optPVCPVT);
-    }
-    const std::string endless(5'000'000, 'x');
-    EXPECT_EQ(ParseCurveFile(endless).lblSDL.size(), endless.size());
-    EXPECT_EQ(ParseCurveFile(std::string(1000, '\0')).lblMorF, "");
 }
 
 // Every file the writer produces reads back to the same sheet.

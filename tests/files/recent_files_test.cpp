@@ -25,13 +25,6 @@ protected:
     RecentFiles recent{store};
 };
 
-TEST_F(RecentFilesTest, StartsHiddenWithDesignCaptions) {
-    recent.UpdateRecentFileMenu();
-    EXPECT_EQ(Shown(), V{});
-    EXPECT_EQ(recent.Entries()[0].caption, "-");
-    EXPECT_EQ(recent.Entries()[5].caption, "RecentFile5");
-}
-
 TEST_F(RecentFilesTest, NewestFirstUpToFourAndListedPathsKeepTheirPlace) {
     for (const char* p : {"/a", "/b", "/c"}) recent.AddRecentFile(p);
     EXPECT_EQ(Shown(), (V{"/c", "/b", "/a"}));
@@ -48,23 +41,6 @@ TEST_F(RecentFilesTest, NewestFirstUpToFourAndListedPathsKeepTheirPlace) {
 
     recent.AddRecentFile("/B");  // letter case makes a new path
     EXPECT_EQ(Shown(), (V{"/B", "/e", "/d", "/c"}));
-}
-
-TEST_F(RecentFilesTest, TheListSurvivesIntoTheNextRun) {
-    recent.AddRecentFile("/a");
-    recent.AddRecentFile("/b");
-    RecentFiles nextRun(store);
-    nextRun.UpdateRecentFileMenu();
-    EXPECT_TRUE(nextRun.IsRecentFile("/a"));
-    EXPECT_EQ(nextRun.Entries()[0].caption, "/b");
-}
-
-TEST_F(RecentFilesTest, AMissingFirstKeyShowsNothing) {
-    store.SaveSetting("Recent Files", "RecentFile2", "/x");
-    store.SaveSetting("Recent Files", "RecentFile1", "");
-    recent.UpdateRecentFileMenu();
-    EXPECT_EQ(Shown(), V{});
-    EXPECT_FALSE(recent.IsRecentFile("/x"));  // only shown entries count
 }
 
 TEST_F(RecentFilesTest, OnlyShownEntriesCountAndShownEntriesStay) {
