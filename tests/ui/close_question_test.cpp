@@ -3,12 +3,12 @@
 
 #include <QDir>
 
-#include "file_fixture.h"
+#include "ui_fixture.h"
 
 namespace gw::test {
 namespace {
 
-class CloseQuestionTest : public FileTest {
+class CloseQuestionTest : public UiTest {
 protected:
     // A saved metric curve with a PVI station typed before saving.
     frmCrestCurve& SavedCurve(const QString& path) {

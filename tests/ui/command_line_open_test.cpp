@@ -3,7 +3,7 @@
 
 #include <QMdiArea>
 
-#include "file_fixture.h"
+#include "ui_fixture.h"
 #include "shell/command_line.h"
 
 namespace gw::test {
@@ -14,7 +14,7 @@ const QByteArray kEnglishCurve =
     "\"\",\"English\",,,,\"0\"\r\n\"104\",\"12\",\"-2\",\"2\",\"400\",\"\",\"\"\r\n"
     "\"\",\"\",\"\",\"\",\"\",\"\"\r\n#TRUE#,#FALSE#,\"\",\"\"\r\n";
 
-class CommandLineOpenTest : public FileTest {
+class CommandLineOpenTest : public UiTest {
 protected:
     int WindowCount() { return int(Main().MdiArea().subWindowList().size()); }
 };
@@ -34,17 +34,6 @@ TEST_F(CommandLineOpenTest, TwoNamedFilesOneMissingOpenOneWindowAndOneMessage) {
     EXPECT_EQ(opened->Field("txtPVIEval")->text(), "104");
     // Listed as Open lists it; the missing one is not.
     EXPECT_EQ(RecentShown(), QStringList{curve});
-}
-
-TEST_F(CommandLineOpenTest, AnEmptyArgumentOrAFolderIsAMissingFile) {
-    const QStringList paths = CurveFileArguments({QString(), FilePath("")}, FilePath(""));
-    m_platform.AnswerMessage(MessageButton::Ok);
-    m_platform.AnswerMessage(MessageButton::Ok);
-    Main().OpenFiles(paths);
-    Settle();
-    EXPECT_EQ(Messages(), QStringList({"This file does not exist.", "This file does not exist."}));
-    EXPECT_EQ(WindowCount(), 0);
-    EXPECT_TRUE(RecentShown().isEmpty());
 }
 
 TEST(CurveFileArguments, RelativeNamesAreTakenFromTheStartFolderNotTheCurrentOne) {

@@ -3,13 +3,13 @@
 
 #include <QRadioButton>
 
-#include "file_fixture.h"
+#include "ui_fixture.h"
 #include "ui/elevations/auto_station_dialog.h"
 
 namespace gw::test {
 namespace {
 
-class ElevationsFlowTest : public FileTest {
+class ElevationsFlowTest : public UiTest {
 protected:
     static void TypeRow(ElevationsWindow& e, int row, const char* whole, const char* plus) {
         QTest::keyClicks(e.RowField("txtTOTSTA1", row), whole);

@@ -9,12 +9,12 @@
 #include <sys/resource.h>
 
 #include "core/curve_file.h"
-#include "file_fixture.h"
+#include "ui_fixture.h"
 
 namespace gw::test {
 namespace {
 
-class FileCommandsTest : public FileTest {};
+class FileCommandsTest : public UiTest {};
 
 TEST_F(FileCommandsTest, SaveOfAnUntitledCurveWritesItAndTitlesItWithTwoBlanks) {
     frmCrestCurve& w = NewCurve();

@@ -4,14 +4,14 @@
 #include <QElapsedTimer>
 #include <QLabel>
 
-#include "file_fixture.h"
+#include "ui_fixture.h"
 #include "files/curve_file_io.h"
 #include "tests/qt_test_printers.h"
 
 namespace gw::test {
 namespace {
 
-class HugeFileTest : public FileTest {
+class HugeFileTest : public UiTest {
 protected:
     // Opens the file and checks that a window came up with nothing longer than the
     // reader takes in.

@@ -3,14 +3,14 @@
 // The list's own order rules are the files library's and tested there.
 
 #include "core/curve_file.h"
-#include "file_fixture.h"
+#include "ui_fixture.h"
 #include "files/settings_store.h"
 #include "tests/qt_test_printers.h"
 
 namespace gw::test {
 namespace {
 
-class RecentFilesMenuTest : public FileTest {
+class RecentFilesMenuTest : public UiTest {
 protected:
     // Curve files that exist, one per name, each opened and closed once.
     QString Opened(const QString& name) {

@@ -104,11 +104,6 @@ protected:
     ScriptedPlatform platform;
 };
 
-TEST_F(PrintCommandTest, NoCurveShowsNoDialog) {
-    PrintCurveReport(platform, nullptr, nullptr);
-    EXPECT_EQ(platform.BusySpells(), 0);
-}
-
 TEST_F(PrintCommandTest, CancelPrintsNothingAndRestoresThePointer) {
     const CurveSheet sheet = SolvedCurve();
     platform.AnswerPrintDialog(std::nullopt);

@@ -5,13 +5,13 @@
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
-#include "file_fixture.h"
+#include "ui_fixture.h"
 #include "tests/qt_test_printers.h"
 
 namespace gw::test {
 namespace {
 
-class SaveFaultTest : public FileTest {
+class SaveFaultTest : public UiTest {
 protected:
     void ExpectOneExclamation(const QString& reason) {
         ASSERT_EQ(m_platform.Messages().size(), 1u);

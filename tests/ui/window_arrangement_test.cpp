@@ -9,36 +9,14 @@
 namespace gw::test {
 namespace {
 
-struct TileCase {
-    const char* name;
-    TileDirection direction;
-    int count;
-    QRect area;
-    std::vector<QRect> tiles;
-};
-
-void PrintTo(const TileCase& c, std::ostream* os) { *os << c.name; }
-
-class TileRectsTest : public ::testing::TestWithParam<TileCase> {};
-
-TEST_P(TileRectsTest, SplitsTheAreaIntoEqualBandsOrColumns) {
-    const TileCase& c = GetParam();
-    EXPECT_EQ(TileRects(c.direction, c.count, c.area), c.tiles);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Tiling, TileRectsTest,
-    ::testing::Values(
-        TileCase{"HorizontalStacksBands", TileDirection::Horizontal, 3, {0, 0, 300, 100},
-                 {{0, 0, 300, 33}, {0, 33, 300, 33}, {0, 66, 300, 34}}},
-        TileCase{"VerticalSetsColumnsSideBySide", TileDirection::Vertical, 2, {10, 20, 601, 50},
-                 {{10, 20, 300, 50}, {310, 20, 301, 50}}},
-        TileCase{"EmptyAreaNoTiles", TileDirection::Horizontal, 2, {0, 0, 0, 0}, {}}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST(IconRectsTest, LinesUpAlongTheBottomAndWrapsUpward) {
-    const std::vector<QRect> icons = IconRects(3, QSize(100, 30), QRect(0, 0, 250, 200));
-    EXPECT_EQ(icons, (std::vector<QRect>{{0, 170, 100, 30}, {100, 170, 100, 30}, {0, 140, 100, 30}}));
+TEST(ArrangementRectsTest, TilesSplitTheAreaEvenlyAndIconsLineUpAlongTheBottom) {
+    EXPECT_EQ(TileRects(TileDirection::Horizontal, 3, {0, 0, 300, 100}),
+              (std::vector<QRect>{{0, 0, 300, 33}, {0, 33, 300, 33}, {0, 66, 300, 34}}));
+    EXPECT_EQ(TileRects(TileDirection::Vertical, 2, {10, 20, 601, 50}),
+              (std::vector<QRect>{{10, 20, 300, 50}, {310, 20, 301, 50}}));
+    EXPECT_TRUE(TileRects(TileDirection::Horizontal, 2, {0, 0, 0, 0}).empty());
+    EXPECT_EQ(IconRects(3, QSize(100, 30), QRect(0, 0, 250, 200)),
+              (std::vector<QRect>{{0, 170, 100, 30}, {100, 170, 100, 30}, {0, 140, 100, 30}}));
 }
 
 class ArrangementTest : public UiTest {};
