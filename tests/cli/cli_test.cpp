@@ -15,6 +15,7 @@
 
 #include "cli/cli.h"
 #include "core/curve_file.h"
+#include "tests/core/sheet_builders.h"
 #include "core/curve_sheet.h"
 #include "core/curve_solver.h"
 
@@ -76,14 +77,7 @@ protected:
     // A curve in the PVI mode, written as a curve file.
     std::string Pvi(const char* units, const char* sta, const char* stam, const char* elev, const char* g1,
                     const char* g2, const char* lc) {
-        CurveSheet s = NewCurveSheet(units);
-        s.txtPVISTA = sta;
-        s.txtPVISTAM = stam;
-        s.txtPVIEval = elev;
-        s.txtG1 = g1;
-        s.txtG2 = g2;
-        s.txtLC = lc;
-        return Write(s);
+        return Write(gw::test::PviSheet(units, sta, stam, elev, g1, g2, lc));
     }
     // PVI 12+00 at 104, +2 % to -2 %, 400 ft: PVC 10+00 at 100, PVT 14+00.
     std::string EnglishCrest(const char* stam = "0") { return Pvi("English", "12", stam, "104", "2", "-2", "400"); }

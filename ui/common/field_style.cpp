@@ -1,6 +1,7 @@
 #include "field_style.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QLineEdit>
 #include <QPalette>
 
@@ -31,5 +32,15 @@ void StyleAsResult(QLineEdit& field) {
 }
 
 bool IsResult(const QLineEdit& field) { return field.isReadOnly(); }
+
+void SetUpFixedDialog(QDialog& dialog, const char* objectName, const char* title, QSize size) {
+    dialog.setObjectName(QString::fromLatin1(objectName));
+    dialog.setWindowTitle(QString::fromLatin1(title));
+    dialog.setFixedSize(size);
+    QFont small = dialog.font();
+    small.setPointSizeF(8);
+    dialog.setFont(small);
+    dialog.setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+}
 
 }  // namespace gw

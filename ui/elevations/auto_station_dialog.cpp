@@ -21,13 +21,7 @@ QString Q(const std::string& text) { return QString::fromStdString(text); }
 }  // namespace
 
 AutoStationDialog::AutoStationDialog(Platform& platform, QWidget* parent) : QDialog(parent), m_platform(platform) {
-    setObjectName("dlgAuto");
-    setWindowTitle(auto_station_text::kCaption);
-    setFixedSize(222, 222);
-    QFont small = font();
-    small.setPointSizeF(8);
-    setFont(small);
-    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    SetUpFixedDialog(*this, "dlgAuto", auto_station_text::kCaption, QSize(222, 222));
     m_checks = new LeaveChecks(platform, *this);
     BuildControls();
     for (QLineEdit* field : {m_txtPoints, m_txtBeginSTA, m_txtBeginSTAM, m_txtIncSTA, m_txtIncSTAM}) {

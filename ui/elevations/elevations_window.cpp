@@ -38,14 +38,7 @@ void AddLabel(QWidget* parent, const char* name, const QString& text, int left, 
 ElevationsWindow::ElevationsWindow(ElevationsSlot& slot, Platform& platform, AutoStationDialog& autoStation,
                                    QWidget* parent)
     : QDialog(parent), m_slot(slot), m_platform(platform), m_autoStation(autoStation) {
-    setObjectName("frmTS");
-    setWindowTitle(elevations_text::kCaption);
-    setFixedSize(520, 398);
-    // The layout is drawn for a small dialog font; a larger one runs labels into fields.
-    QFont small = font();
-    small.setPointSizeF(8);
-    setFont(small);
-    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    SetUpFixedDialog(*this, "frmTS", elevations_text::kCaption, QSize(520, 398));
     m_checks = new LeaveChecks(platform, *this);
     BuildControls();
     WatchRowChecks();
