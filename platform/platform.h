@@ -60,7 +60,8 @@ public:
     virtual MessageButton ShowMessage(QWidget* owner, const MessageRequest& request) = 0;
 
     // Shows one of our own dialogs modally and returns once it has hidden itself;
-    // the caller reads the dialog's answer from the dialog afterwards.
+    // the caller reads the dialog's answer from the dialog afterwards, so the dialog
+    // must not delete itself on closing.
     virtual void ShowModal(QDialog& dialog) = 0;
 
     // The chosen path, or nothing when the user cancelled.

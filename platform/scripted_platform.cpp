@@ -73,6 +73,10 @@ MessageButton ScriptedPlatform::ShowMessage(QWidget*, const MessageRequest& requ
 
 void ScriptedPlatform::ShowModal(QDialog& dialog) {
     m_shownDialogs << dialog.objectName();
+    // A real modal run frees such a dialog before its caller reads the answer.
+    if (dialog.testAttribute(Qt::WA_DeleteOnClose)) {
+        Unexpected(QStringLiteral("dialog deletes itself on closing: %1").arg(dialog.objectName()));
+    }
     // Shown modelessly so the script's key clicks and focus changes reach real widgets;
     // the script answers it and we return, with no event loop of our own.
     dialog.show();

@@ -16,10 +16,10 @@ void frmMain::mnuFilePrint_Click() {
 }
 
 void frmMain::mnuHelpAbout_Click() {
-    // Created afresh each time; OK, Escape and the close box destroy it.
-    auto* about = new frmAbout(this);
-    m_platform.ShowModal(*about);
-    if (about->isHidden()) about->deleteLater();
+    // Created afresh each time and gone once it has been answered; the modal showing
+    // returns while the box still exists, so it must not delete itself on closing.
+    frmAbout about(this);
+    m_platform.ShowModal(about);
     activateWindow();
 }
 
