@@ -15,6 +15,7 @@
 #include "files/commands/recent_files_menu.h"
 #include "platform/platform.h"
 #include "display_check.h"
+#include "frame_placement.h"
 #include "placement.h"
 #include "status_bar.h"
 #include "ui/curve/curve_window.h"
@@ -69,19 +70,18 @@ bool frmMain::MDIForm_Load() {
         ShowRefusal(m_platform, nullptr, QString::fromLatin1(kSmallFontOnly));
         return false;
     }
+    // The stored placement goes with the showing, so the frame opens where it was
+    // left rather than jumping there.
+    RestorePlacement();
     show();
     QDir::setCurrent(QCoreApplication::applicationDirPath());
-    RestorePlacement();
     m_recent->UpdateRecentFileMenu();
     return true;
 }
 
 void frmMain::RestorePlacement() {
-    const QRect frame = PlacementToPixels(ReadPlacement(m_platform.Settings()));
-    // The stored size is the frame's; what Qt resizes is the inside.
-    const QSize border = frameGeometry().size() - size();
-    move(frame.topLeft());
-    resize(frame.size() - border);
+    m_restored = ReadPlacement(m_platform.Settings());
+    PlaceFrame(*this, PlacementToPixels(m_restored));
 }
 
 frmCrestCurve* frmMain::ActiveCurveWindow() const {
@@ -107,7 +107,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
 
 void frmMain::MDIForm_Unload() {
     // A minimised frame keeps the place it had on the previous run.
-    if (!isMinimized()) StorePlacement(m_platform.Settings(), PlacementFromPixels(frameGeometry()));
+    if (!isMinimized()) StorePlacement(m_platform.Settings(), PlacementToStore(m_restored, frameGeometry()));
     if (!m_slots.AnyCurveWindowOpen()) emit programEnded();
 }
 

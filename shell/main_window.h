@@ -7,6 +7,7 @@
 
 #include "files/commands/curve_window_host.h"
 #include "main_menus.h"
+#include "placement.h"
 #include "ui/curve/window_slots.h"
 
 class QMdiArea;
@@ -81,6 +82,7 @@ private:
     QMdiArea* m_mdi = nullptr;
     MainStatusBar* m_status = nullptr;
     MainMenus m_menus;
+    Placement m_restored;  // as read at start-up
     frmInformation* m_units = nullptr;
     std::unique_ptr<RecentFilesMenu> m_recent;
     std::unique_ptr<FileCommands> m_files;

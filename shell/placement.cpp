@@ -60,4 +60,8 @@ Placement PlacementFromPixels(const QRect& frame) {
                      frame.height() * kTwipsPerPixel};
 }
 
+Placement PlacementToStore(const Placement& restored, const QRect& frame) {
+    return frame == PlacementToPixels(restored) ? restored : PlacementFromPixels(frame);
+}
+
 }  // namespace gw

@@ -24,4 +24,9 @@ void StorePlacement(SettingsStore& store, const Placement& placement);
 QRect PlacementToPixels(const Placement& placement);
 Placement PlacementFromPixels(const QRect& frame);
 
+// What to store for `frame` at the end of a run that started from `restored`: a frame
+// still on the pixels it was restored to keeps the twips it came from, so values that
+// fall between pixels (the default top of -108 twips) do not drift from run to run.
+Placement PlacementToStore(const Placement& restored, const QRect& frame);
+
 }  // namespace gw

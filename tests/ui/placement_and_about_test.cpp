@@ -23,6 +23,17 @@ TEST_F(PlacementTest, FirstRunOpensAtTheDefaultTwips) {
     EXPECT_EQ(Main().frameGeometry().x(), 7);
 }
 
+TEST(PlacementStoreTest, AFrameLeftWhereItOpenedKeepsTheTwipsItCameFrom) {
+    const Placement defaults;  // -108 twips lies between two pixels
+    const QRect opened = PlacementToPixels(defaults);
+    const Placement kept = PlacementToStore(defaults, opened);
+    EXPECT_EQ(std::vector<float>({kept.left, kept.top, kept.width, kept.height}),
+              std::vector<float>({105, -108, 10065, 7305}));
+    const Placement moved = PlacementToStore(defaults, opened.translated(0, 1));
+    EXPECT_EQ(std::vector<float>({moved.left, moved.top, moved.width, moved.height}),
+              std::vector<float>({105, -90, 10065, 7305}));
+}
+
 TEST_F(PlacementTest, AMovedAndResizedFrameReopensWhereItWasLeft) {
     Main().move(40, 50);
     Main().resize(800, 600);
