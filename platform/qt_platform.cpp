@@ -9,6 +9,7 @@
 #include <QPrinter>
 #include <QUrl>
 
+#include "modal_guard.h"
 #include "print/page_printer.h"
 
 namespace gw {
@@ -55,6 +56,7 @@ std::optional<QString> RunFileDialog(QWidget* owner, const FileDialogRequest& re
         dialog.selectNameFilter(filters.at(request.selectedFilter));
     }
     if (!request.fileName.isEmpty()) dialog.selectFile(request.fileName);
+    GuardModal(dialog, ModalSize::Resizable);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     const QStringList chosen = dialog.selectedFiles();
     if (chosen.isEmpty() || chosen.first().isEmpty()) return std::nullopt;
@@ -74,6 +76,7 @@ MessageButton QtPlatform::ShowMessage(QWidget* owner, const MessageRequest& requ
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
     }
     box.setDefaultButton(ToQt(request.defaultButton));
+    GuardModal(box, ModalSize::Fixed);
     switch (box.exec()) {
         case QMessageBox::Yes: return MessageButton::Yes;
         case QMessageBox::No: return MessageButton::No;
@@ -82,7 +85,11 @@ MessageButton QtPlatform::ShowMessage(QWidget* owner, const MessageRequest& requ
     }
 }
 
-void QtPlatform::ShowModal(QDialog& dialog) { dialog.exec(); }
+void QtPlatform::ShowModal(QDialog& dialog) {
+    // Our own dialogs are all laid out at a fixed size.
+    GuardModal(dialog, ModalSize::Fixed);
+    dialog.exec();
+}
 
 std::optional<QString> QtPlatform::GetOpenFileName(QWidget* owner, const FileDialogRequest& request) {
     return RunFileDialog(owner, request, QFileDialog::AcceptOpen);
@@ -113,6 +120,7 @@ std::optional<int> QtPlatform::ShowPrintDialog(QWidget* owner, int copies) {
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
     dialog.setMinMax(1, 1);
     printer.setFromTo(1, 1);
+    GuardModal(dialog, ModalSize::Resizable);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     // The report prints each copy itself, so the printer must not repeat it.
     const int chosen = printer.copyCount();

@@ -1,7 +1,8 @@
 # The Debian packages each set-up command needs; sourced by the scripts.
 # shellcheck disable=SC2034
-# fonts-liberation makes "Arial", the report's font, resolve to its metric twin.
-BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation)
+# fonts-liberation makes "Arial", the report's and the windows' font, resolve to its
+# metric twin; libxcb1-dev writes the window-manager hints of fixed dialogs.
+BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation libxcb1-dev)
 # desktop-file-utils, libxml2-utils and shared-mime-info check the installed desktop entry,
 # icon and curve-file type.
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev xvfb xauth fonts-liberation poppler-utils
