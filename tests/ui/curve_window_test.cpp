@@ -1,13 +1,16 @@
 // The curve window: its layout, the two modes, Enter, the changed flag and the
 // checks on leaving a field, driven by real key presses and focus changes.
 
+#include <QClipboard>
 #include <QLabel>
+#include <QMenu>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 #include <cstring>
+#include <memory>
 
 #include "ui_fixture.h"
 
@@ -112,6 +115,66 @@ TEST_F(CurveWindowTest, TypingStopsAtTheFieldLimits) {
     EXPECT_EQ(w.Field("txtPVISTA")->text(), "12345");
     EXPECT_EQ(w.Field("txtPVISTAM")->text(), "999.999");
 }
+
+// Every way the user can change a field's text: the curve is changed, and what is
+// pasted stops at the field's limit.
+struct EditWay {
+    const char* name;
+    void (*edit)(QLineEdit&);
+    const char* after;  // from "123" set by the program, cursor at the start
+};
+
+void PrintTo(const EditWay& c, std::ostream* os) { *os << c.name; }
+
+void FromContextMenu(QLineEdit& field, const char* caption) {
+    std::unique_ptr<QMenu> menu(field.createStandardContextMenu());
+    for (QAction* a : menu->actions()) {
+        if (a->text().startsWith(QLatin1String(caption))) return a->trigger();
+    }
+    ADD_FAILURE() << "no context menu entry " << caption;
+}
+
+class UserEditTest : public CurveWindowTest, public ::testing::WithParamInterface<EditWay> {};
+
+TEST_P(UserEditTest, MarksTheCurveChangedAndKeepsTheLimit) {
+    frmCrestCurve& w = NewCurve();
+    QLineEdit* field = w.Field("txtPVISTA");  // at most 5 characters
+    ClickInto(field);
+    field->setText("123");
+    field->setCursorPosition(0);
+    QApplication::clipboard()->setText("987654321");
+    ASSERT_FALSE(Changed());
+    GetParam().edit(*field);
+    EXPECT_EQ(field->text(), QString::fromLatin1(GetParam().after));
+    EXPECT_TRUE(Changed());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Edits, UserEditTest,
+    ::testing::Values(EditWay{"CtrlV", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_V, Qt::ControlModifier); }, "98123"},
+                      EditWay{"ShiftInsert", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Insert, Qt::ShiftModifier); },
+                              "98123"},
+                      EditWay{"MenuPaste", [](QLineEdit& f) { FromContextMenu(f, "&Paste"); }, "98123"},
+                      EditWay{"CtrlX",
+                              [](QLineEdit& f) {
+                                  f.selectAll();
+                                  QTest::keyClick(&f, Qt::Key_X, Qt::ControlModifier);
+                              },
+                              ""},
+                      EditWay{"MenuCut",
+                              [](QLineEdit& f) {
+                                  f.selectAll();
+                                  FromContextMenu(f, "Cu&t");
+                              },
+                              ""},
+                      EditWay{"MenuDelete",
+                              [](QLineEdit& f) {
+                                  f.selectAll();
+                                  FromContextMenu(f, "Delete");
+                              },
+                              ""},
+                      EditWay{"DeleteKey", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Delete); }, "23"}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CurveWindowTest, EnterCalculatesFromAnyFieldWithoutTheFieldsOwnCheck) {
     frmCrestCurve& w = NewCurve();

@@ -105,6 +105,26 @@ TEST_F(ElevationsFlowTest, AStationBeforeThePvcKeepsTheWindowOpenOnTheRow) {
     EXPECT_EQ(Messages(), QStringList{"Top of Slab Station must be between PVC and PVT stations."});
 }
 
+TEST_F(ElevationsFlowTest, StationCopiesKeepEveryDigitSoTheRangeCheckHolds) {
+    frmCrestCurve& w = NewCurve(false);
+    for (auto [name, text] : {std::pair{"txtPVISTA", "99999"}, {"txtPVISTAM", "50"}, {"txtPVIEval", "104"},
+                              {"txtG1", "2"}, {"txtG2", "-2"}, {"txtLC", "400"}}) {
+        TypeInto(w.Field(name), text);
+    }
+    QTest::keyClick(w.Field("txtLC"), Qt::Key_Return);
+    ASSERT_EQ(w.Field("txtPVTSTA")->text(), "100001");  // a result longer than anyone may type
+    m_platform.AnswerMessage(MessageButton::Ok);
+    CalculateElevations(w, [](ElevationsWindow& e) {
+        EXPECT_EQ(e.Field("txtPVTSTA")->text(), "100001");
+        TypeRow(e, 0, "100001", "60");  // ten feet past the PVT
+        PressOK(e);
+        EXPECT_TRUE(e.isVisible());
+        EXPECT_EQ(e.RowField("txtTotalTopSlab1", 0)->text(), "");
+        e.close();
+    });
+    EXPECT_EQ(Messages(), QStringList{"Top of Slab Station must be between PVC and PVT stations."});
+}
+
 TEST_F(ElevationsFlowTest, AutoStationingFillsTheRowsOnOkAndKeepsItsDialogOnARefusal) {
     frmCrestCurve& w = SolvedEnglishCurve();
     m_platform.AnswerMessage(MessageButton::Ok);

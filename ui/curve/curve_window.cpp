@@ -13,6 +13,7 @@
 #include "curve_picture.h"
 #include "platform/platform.h"
 #include "ui/common/field_style.h"
+#include "ui/common/typing_limit.h"
 #include "ui/elevations/elevations_window.h"
 #include "window_slots.h"
 
@@ -78,8 +79,10 @@ void frmCrestCurve::BuildControls() {
         field->installEventFilter(this);
         m_fields[place.name] = field;
         if (place.name.size() > 3 && place.name.substr(place.name.size() - 3) == "STA") {
-            m_limits[field] = curve_layout::kWholeStationLimit;
+            SetTypingLimit(*field, curve_layout::kWholeStationLimit);
         }
+        // A paste, a cut or a delete changes the curve as much as a typed key.
+        connect(field, &QLineEdit::textEdited, this, [this] { m_slots.State(m_slot).changed = true; });
     }
 
     auto label = [this](const char* name, const QString& text, const QRect& rect) {
@@ -182,7 +185,7 @@ void frmCrestCurve::ApplyMode(bool pvi) {
             }
             // A plus field keeps its limit once it has been an input.
             if (input && name.size() > 4 && name.substr(name.size() - 4) == "STAM") {
-                m_limits[field] = curve_layout::kPlusPartLimit;
+                SetTypingLimit(*field, curve_layout::kPlusPartLimit);
             }
         }
         for (std::string_view name : names) {

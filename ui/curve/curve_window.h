@@ -64,7 +64,6 @@ private:
 
     // Form_KeyPress and the Enter key; true when the key is discarded.
     bool Form_KeyPress(QLineEdit* field, QKeyEvent* key);
-    bool ExceedsLimit(QLineEdit* field, QKeyEvent* key) const;
     void FieldLostFocus(QLineEdit* field, Qt::FocusReason reason);
     void ReportFieldProblem();
     // The close question; sets `cancel` to keep the window open.
@@ -76,7 +75,6 @@ private:
     const int m_slot;
 
     std::map<std::string_view, QLineEdit*> m_fields;
-    std::map<QLineEdit*, int> m_limits;  // typed-character limits
     QGroupBox* m_frame1 = nullptr;
     QRadioButton* m_optPVI = nullptr;
     QRadioButton* m_optPVCPVT = nullptr;

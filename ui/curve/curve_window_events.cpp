@@ -2,7 +2,6 @@
 // changed, Enter in an entry field runs Calc, and leaving a field checks it.
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -51,22 +50,7 @@ bool frmCrestCurve::Form_KeyPress(QLineEdit* field, QKeyEvent* key) {
         cmdCalcP_Click();
         return true;
     }
-    return field && ExceedsLimit(field, key);
-}
-
-bool frmCrestCurve::ExceedsLimit(QLineEdit* field, QKeyEvent* key) const {
-    auto limit = m_limits.find(field);
-    if (limit == m_limits.end() || field->isReadOnly()) return false;
-    // The limit is on what the user types; results written by Calc may be longer.
-    const int kept = int(field->text().size() - field->selectedText().size());
-    if (key->matches(QKeySequence::Paste)) {
-        const QString pasted = QApplication::clipboard()->text();
-        field->insert(pasted.left(std::max(0, limit->second - kept)));
-        return true;
-    }
-    const QString typed = key->text();
-    if (typed.isEmpty() || !typed.at(0).isPrint()) return false;
-    return kept + typed.size() > limit->second;
+    return false;
 }
 
 void frmCrestCurve::FieldLostFocus(QLineEdit* field, Qt::FocusReason reason) {

@@ -10,6 +10,7 @@
 #include "platform/platform.h"
 #include "ui/common/field_style.h"
 #include "ui/common/leave_checks.h"
+#include "ui/common/typing_limit.h"
 #include "ui/elevations/elevations_texts.h"
 
 namespace gw {
@@ -59,7 +60,9 @@ void AutoStationDialog::BuildControls() {
         f->setObjectName(name);
         f->setAccessibleName(name);
         f->setGeometry(l, t, w, 19);
-        if (maxLength > 0) f->setMaxLength(maxLength);
+        // A limit on typing only: the beginning station the dialog proposes is the
+        // curve's and keeps every digit.
+        if (maxLength > 0) SetTypingLimit(*f, maxLength);
         if (tip) f->setToolTip(tip);
         return f;
     };

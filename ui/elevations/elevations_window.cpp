@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "ui/common/field_style.h"
 #include "ui/common/leave_checks.h"
+#include "ui/common/typing_limit.h"
 #include "ui/elevations/auto_station_dialog.h"
 #include "ui/elevations/elevations_slot.h"
 #include "ui/elevations/elevations_texts.h"
@@ -50,6 +51,8 @@ QLineEdit* ElevationsWindow::AddField(const char* name, int left, int top, int w
     field->setAccessibleName(name);
     field->setGeometry(left, top, width, kFieldHeight);
     field->installEventFilter(this);
+    // A paste, a cut or a delete changes the curve as much as a typed key.
+    connect(field, &QLineEdit::textEdited, this, [this] { m_slot.MarkChanged(); });
     return field;
 }
 
@@ -68,8 +71,9 @@ void ElevationsWindow::BuildControls() {
     m_txtPVCSTAM->setToolTip(kPVCTip);
     m_txtPVTSTA->setToolTip(kPVTTip);
     m_txtPVTSTAM->setToolTip(kPVTTip);
-    m_txtPVCSTA->setMaxLength(5);
-    m_txtPVTSTA->setMaxLength(5);
+    // A limit on typing only: the copies are the program's and keep every digit.
+    SetTypingLimit(*m_txtPVCSTA, 5);
+    SetTypingLimit(*m_txtPVTSTA, 5);
 
     AddLabel(this, "lblVOffset", kVOffset, 41, 59);
     m_txtVOffset = AddField("txtVOffset", 88, 56, 49);
