@@ -279,15 +279,35 @@ TEST_F(LeaveFocusTest, MovingToAnotherCurveWindowIsNotLeavingTheField) {
     EXPECT_EQ(Main().ActiveCurveWindow(), &second);
 }
 
-TEST_F(LeaveFocusTest, ClickingIntoAResultAndLeavingChecksItToo) {
+struct LeaveWay {
+    const char* name;
+    void (*leave)(frmCrestCurve&);
+};
+
+void PrintTo(const LeaveWay& c, std::ostream* os) { *os << c.name; }
+
+class LeaveResultTest : public UiTest, public ::testing::WithParamInterface<LeaveWay> {};
+
+// A result is out of the tab order, so Tab from it passes through the document
+// window's frame on its way to the next input.
+TEST_P(LeaveResultTest, AResultClickedIntoIsCheckedHoweverItIsLeft) {
     frmCrestCurve& w = NewCurve();
     QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
     ClickInto(w.Field("txtLC"));  // a result in this mode
     m_platform.AnswerMessage(MessageButton::Ok);
-    ClickInto(w.Field("txtG1"));
+    GetParam().leave(w);
+    Settle();
     EXPECT_EQ(Messages(), QStringList{"Length of Curve can not be 0."});
     EXPECT_EQ(QApplication::focusWidget(), w.Field("txtLC"));
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Ways, LeaveResultTest,
+    ::testing::Values(LeaveWay{"Click", [](frmCrestCurve& w) { QTest::mouseClick(w.Field("txtG1"), Qt::LeftButton); }},
+                      LeaveWay{"Tab", [](frmCrestCurve& w) { QTest::keyClick(w.Field("txtLC"), Qt::Key_Tab); }},
+                      LeaveWay{"ShiftTab",
+                               [](frmCrestCurve& w) { QTest::keyClick(w.Field("txtLC"), Qt::Key_Backtab); }}),
+    [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace gw::test

@@ -149,5 +149,79 @@ TEST_F(ElevationsFlowTest, AutoStationingFillsTheRowsOnOkAndKeepsItsDialogOnARef
     EXPECT_EQ(Messages(), QStringList{"Increment must be greater than 0."});
 }
 
+// A click that leaves a bad field does nothing, however quickly it follows the
+// typing: the field's messages show once each and the window stays, with the focus
+// back in the field.
+class QuickClickTest;
+
+struct QuickClick {
+    const char* name;
+    void (*run)(QuickClickTest&, ElevationsWindow&);
+    QStringList messages;
+};
+
+void PrintTo(const QuickClick& c, std::ostream* os) { *os << c.name; }
+
+class QuickClickTest : public ElevationsFlowTest, public ::testing::WithParamInterface<QuickClick> {
+public:
+    static void TypeThenClick(QLineEdit* field, const char* text, QWidget& window, const char* button) {
+        field->setFocus(Qt::MouseFocusReason);
+        QTest::keyClicks(field, text);
+        QTest::mouseClick(window.findChild<QPushButton*>(button), Qt::LeftButton);  // no pause between
+        QApplication::processEvents();
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(QApplication::focusWidget(), field);
+        EXPECT_EQ(field->text(), QString::fromLatin1(text));
+    }
+    // In the auto-stationing dialog's Spacing mode; Cancel afterwards.
+    void InSpacingMode(ElevationsWindow& e, void (*then)(AutoStationDialog&)) {
+        AutoStation(e, [then](AutoStationDialog& d) {
+            d.findChild<QRadioButton*>("optSpacing")->click();
+            then(d);
+            Press(d, "CancelButton");
+        });
+    }
+};
+
+TEST_P(QuickClickTest, NeverLosesTheFieldsMessage) {
+    frmCrestCurve& w = SolvedEnglishCurve();
+    for (int i = 0; i < GetParam().messages.size(); ++i) m_platform.AnswerMessage(MessageButton::Ok);
+    CalculateElevations(w, [this](ElevationsWindow& e) {
+        GetParam().run(*this, e);
+        e.close();
+    });
+    EXPECT_EQ(Messages(), GetParam().messages);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Clicks, QuickClickTest,
+    ::testing::Values(
+        QuickClick{"WholeStationThenOK",
+                   [](QuickClickTest&, ElevationsWindow& e) {
+                       QuickClickTest::TypeThenClick(e.RowField("txtTOTSTA1", 0), "x", e, "cmdOK");
+                   },
+                   {"Must be numeric.", "Must be >= to PVCSTA."}},
+        QuickClick{"PlusPartThenOK",
+                   [](QuickClickTest&, ElevationsWindow& e) {
+                       e.RowField("txtTOTSTA1", 0)->setText("11");
+                       QuickClickTest::TypeThenClick(e.RowField("txtTOTSTAM1", 0), "100", e, "cmdOK");
+                   },
+                   {"Measurement must be less than 100 feet."}},
+        QuickClick{"WholeStationThenAutoStationing",
+                   [](QuickClickTest&, ElevationsWindow& e) {
+                       // No auto-stationing dialog is queued: opening one would fail the test.
+                       QuickClickTest::TypeThenClick(e.RowField("txtTOTSTA1", 0), "x", e, "cmdAutoStation");
+                   },
+                   {"Must be numeric.", "Must be >= to PVCSTA."}},
+        QuickClick{"BeginningPlusPartThenOK",
+                   [](QuickClickTest& t, ElevationsWindow& e) {
+                       t.InSpacingMode(e, [](AutoStationDialog& d) {
+                           d.Field("txtBeginSTAM")->clear();
+                           QuickClickTest::TypeThenClick(d.Field("txtBeginSTAM"), "99.995", d, "OKButton");
+                       });
+                   },
+                   {"Measurement must be less than 100 feet."}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
 }  // namespace
 }  // namespace gw::test

@@ -1,53 +1,104 @@
 #include "leave_checks.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include "platform/platform.h"
 
 namespace gw {
+namespace {
+
+// Holds back the user's mouse buttons and keys everywhere in the program.
+class InputHold final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        switch (event->type()) {
+            case QEvent::MouseButtonPress:
+            case QEvent::MouseButtonRelease:
+            case QEvent::MouseButtonDblClick:
+            case QEvent::KeyPress:
+            case QEvent::KeyRelease:
+            case QEvent::Shortcut:
+            case QEvent::ShortcutOverride:
+            case QEvent::Wheel: return true;
+            default: return false;
+        }
+    }
+};
+
+}  // namespace
 
 LeaveChecks::LeaveChecks(Platform& platform, QWidget& window) : QObject(&window), m_platform(platform), m_window(window) {}
+
+LeaveChecks::~LeaveChecks() { delete m_inputHold; }
 
 void LeaveChecks::Watch(QLineEdit& field, Check check) {
     m_checks.emplace_back(&field, std::move(check));
     field.installEventFilter(this);
 }
 
-bool LeaveChecks::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() != QEvent::FocusOut || m_reporting) return false;
-    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-    // Another window, a menu or a popup taking the focus is not the user leaving the field.
-    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason || reason == Qt::MenuBarFocusReason) {
-        return false;
+bool LeaveChecks::IsLeaving(const QEvent& focusOut) const {
+    switch (static_cast<const QFocusEvent&>(focusOut).reason()) {
+        case Qt::TabFocusReason:
+        case Qt::BacktabFocusReason:
+            // Tab can pass through the frame of a document window on its way.
+            return true;
+        case Qt::MouseFocusReason:
+        case Qt::ShortcutFocusReason: {
+            // Qt has already moved the focus on when the field hears of it.
+            const QWidget* next = QApplication::focusWidget();
+            return next && m_window.isAncestorOf(next);
+        }
+        default: return false;
     }
+}
+
+bool LeaveChecks::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::FocusOut || Busy() || !IsLeaving(*event)) return false;
     auto* field = qobject_cast<QLineEdit*>(watched);
     if (!field) return false;
-    QMetaObject::invokeMethod(this, [this, guarded = QPointer<QLineEdit>(field)] { Report(guarded); },
-                              Qt::QueuedConnection);
+    std::vector<QString> messages;
+    for (auto& [watchedField, check] : m_checks) {
+        if (watchedField == field) messages = check(*field);
+    }
+    if (messages.empty()) return false;
+
+    // The click or key that took the focus (and any that follow before the report)
+    // must not act on a field left in error.
+    m_pending = true;
+    m_pendingField = field;
+    m_pendingMessages = std::move(messages);
+    m_inputHold = new InputHold;
+    qApp->installEventFilter(m_inputHold);
+    QMetaObject::invokeMethod(this, &LeaveChecks::Report, Qt::QueuedConnection);
     return false;
 }
 
-void LeaveChecks::Report(QPointer<QLineEdit> field) {
-    if (!field || m_reporting || !m_window.isVisible()) return;
-    CheckNow(*field);
-}
-
-bool LeaveChecks::CheckNow(QLineEdit& field) {
-    std::vector<QString> messages;
-    for (auto& [watched, check] : m_checks) {
-        if (watched == &field) messages = check(field);
-    }
-    if (messages.empty()) return true;
-    m_reporting = true;
+void LeaveChecks::Report() {
+    delete m_inputHold;
+    m_inputHold = nullptr;
+    QScopedValueRollback<bool> reporting(m_reporting, true);
+    m_pending = false;
+    const std::vector<QString> messages = std::move(m_pendingMessages);
+    m_pendingMessages.clear();
+    QPointer<QLineEdit> field = m_pendingField;
+    if (!field) return;  // gone with its window
     for (const QString& message : messages) ShowRefusal(m_platform, &m_window, message);
     // Nothing re-activates our window after a box when no window manager runs.
-    m_window.activateWindow();
-    field.setFocus(Qt::OtherFocusReason);
-    m_reporting = false;
-    return false;
+    if (auto* sub = qobject_cast<QMdiSubWindow*>(m_window.parentWidget())) {
+        if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
+    }
+    m_window.window()->activateWindow();
+    if (field) field->setFocus(Qt::OtherFocusReason);
 }
 
 bool ProducesCharacter(const QKeyEvent& key) {

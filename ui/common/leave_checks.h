@@ -1,8 +1,14 @@
 #pragma once
-// Checks that run when the user leaves a field. The messages are shown after the
-// focus change has finished (never inside focus delivery), one after another, and
-// the focus then goes back to the field with its text as typed. The focus churn
-// that the boxes themselves cause is not the user leaving a field.
+// Checks that run when the user leaves a field, shared by every window.
+//
+// The user leaves a field by Tab, Shift+Tab, a click or an access key; the focus
+// moving because the program moved it, because another window, a menu or a popup
+// took it, or because a click went into another window of ours, is not leaving.
+// The check runs at the moment the focus leaves. When it fails, nothing the user
+// did meanwhile takes effect (the click that took the focus does nothing, however
+// quick it was), the messages are shown once each after the focus change has
+// finished (never inside focus delivery), and the focus goes back to the field
+// with its text as typed. A report is never dropped and never doubled.
 
 #include <QObject>
 #include <QPointer>
@@ -26,26 +32,30 @@ public:
     using Check = std::function<std::vector<QString>(QLineEdit& field)>;
 
     LeaveChecks(Platform& platform, QWidget& window);
+    ~LeaveChecks() override;
 
     void Watch(QLineEdit& field, Check check);
 
-    // True while a report is on screen or moving the focus back.
-    bool Reporting() const { return m_reporting; }
-
-    // Runs the field's check now, as leaving it would; used by commands that must
-    // see the last edit checked before they act. True when the field passed.
-    bool CheckNow(QLineEdit& field);
+    // True from a failed check until its messages have been shown and the focus is back.
+    bool Busy() const { return m_pending || m_reporting; }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Report(QPointer<QLineEdit> field);
+    bool IsLeaving(const QEvent& focusOut) const;
+    void Report();
 
     Platform& m_platform;
     QWidget& m_window;
     std::vector<std::pair<QLineEdit*, Check>> m_checks;
+
+    // A failed check whose messages are still to be shown.
+    QPointer<QLineEdit> m_pendingField;
+    std::vector<QString> m_pendingMessages;
+    bool m_pending = false;
     bool m_reporting = false;
+    QObject* m_inputHold = nullptr;  // swallows the user's input while a report is pending
 };
 
 // True for a key press that produces a character (letters, digits, signs,

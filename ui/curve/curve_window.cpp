@@ -7,12 +7,14 @@
 #include <QRadioButton>
 
 #include "core/curve_solver.h"
+#include "core/field_checks.h"
 #include "core/numbers.h"
 #include "core/stations.h"
 #include "curve_layout.h"
 #include "curve_picture.h"
 #include "platform/platform.h"
 #include "ui/common/field_style.h"
+#include "ui/common/leave_checks.h"
 #include "ui/common/typing_limit.h"
 #include "ui/elevations/elevations_window.h"
 #include "window_slots.h"
@@ -44,6 +46,7 @@ frmCrestCurve::frmCrestCurve(WindowSlots& windowSlots, int slot, const QString& 
     font.setPixelSize(11);
     setFont(font);
     BuildControls();
+    WatchLeaveChecks();
     m_lblMorF->setText(unitSystem);
     m_picture->SetMetric(IsMetric(S(unitSystem)));
     m_slots.SetCurveWindow(m_slot, this);
@@ -119,6 +122,17 @@ void frmCrestCurve::BuildControls() {
                        static_cast<QWidget*>(m_cmdCalcP), static_cast<QWidget*>(m_cmdClear),
                        static_cast<QWidget*>(m_cmdMoreTOS)}) {
         w->installEventFilter(this);
+    }
+}
+
+void frmCrestCurve::WatchLeaveChecks() {
+    auto* checks = new LeaveChecks(m_platform, *this);
+    for (const auto& [name, field] : m_fields) {
+        checks->Watch(*field, [this, name = name](QLineEdit&) {
+            std::vector<QString> messages;
+            if (const auto message = CheckCurveFieldOnLeave(GatherSheet(), name)) messages.push_back(Q(*message));
+            return messages;
+        });
     }
 }
 

@@ -3,7 +3,6 @@
 // texts in its fields; every command gathers a CurveSheet from them, lets the core
 // work on it and puts the texts back.
 
-#include <QPointer>
 #include <QString>
 #include <QWidget>
 #include <map>
@@ -57,6 +56,7 @@ protected:
 
 private:
     void BuildControls();
+    void WatchLeaveChecks();
     void ApplyMode(bool pvi);
     void FocusFirstInput();
     void Report(const Refusal& refusal);
@@ -64,8 +64,6 @@ private:
 
     // Form_KeyPress and the Enter key; true when the key is discarded.
     bool Form_KeyPress(QLineEdit* field, QKeyEvent* key);
-    void FieldLostFocus(QLineEdit* field, Qt::FocusReason reason);
-    void ReportFieldProblem();
     // The close question; sets `cancel` to keep the window open.
     void Form_QueryUnload(bool& cancel);
     void Form_Unload();
@@ -84,11 +82,6 @@ private:
     QPushButton* m_cmdClear = nullptr;
     QPushButton* m_cmdMoreTOS = nullptr;
     CurvePicture* m_picture = nullptr;
-
-    // Set while the window itself moves the focus or shows a box: the focus churn that
-    // causes is not the user leaving a field.
-    bool m_movingFocus = false;
-    QPointer<QLineEdit> m_pendingField;  // left with a failing check, report queued
 };
 
 }  // namespace gw

@@ -1,5 +1,5 @@
-// The curve window's keyboard and focus rules: every character key marks the curve
-// changed, Enter in an entry field runs Calc, and leaving a field checks it.
+// The curve window's keyboard rules: every character key marks the curve changed and
+// Enter in an entry field runs Calc.
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -7,10 +7,7 @@
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QScopedValueRollback>
-#include <algorithm>
 
-#include "core/field_checks.h"
 #include "curve_window.h"
 #include "platform/platform.h"
 #include "ui/common/leave_checks.h"
@@ -28,15 +25,9 @@ bool IsEntryField(const QLineEdit& field) {
 }  // namespace
 
 bool frmCrestCurve::eventFilter(QObject* watched, QEvent* event) {
-    auto* field = qobject_cast<QLineEdit*>(watched);
-    switch (event->type()) {
-        case QEvent::KeyPress:
-            if (Form_KeyPress(field, static_cast<QKeyEvent*>(event))) return true;
-            break;
-        case QEvent::FocusOut:
-            if (field) FieldLostFocus(field, static_cast<QFocusEvent*>(event)->reason());
-            break;
-        default: break;
+    if (event->type() == QEvent::KeyPress &&
+        Form_KeyPress(qobject_cast<QLineEdit*>(watched), static_cast<QKeyEvent*>(event))) {
+        return true;
     }
     return QWidget::eventFilter(watched, event);
 }
@@ -53,46 +44,13 @@ bool frmCrestCurve::Form_KeyPress(QLineEdit* field, QKeyEvent* key) {
     return false;
 }
 
-void frmCrestCurve::FieldLostFocus(QLineEdit* field, Qt::FocusReason reason) {
-    if (m_movingFocus || m_pendingField) return;
-    // Another window, a menu or a popup taking the focus is not the user leaving the field.
-    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
-        reason == Qt::MenuBarFocusReason) {
-        return;
-    }
-    QWidget* next = QApplication::focusWidget();
-    if (!next || !isAncestorOf(next)) return;
-
-    const auto message = CheckCurveFieldOnLeave(GatherSheet(), field->objectName().toStdString());
-    if (!message) return;
-    // The focus is already on its way to the next control: report once it has landed,
-    // never from inside focus delivery.
-    m_pendingField = field;
-    QMetaObject::invokeMethod(this, &frmCrestCurve::ReportFieldProblem, Qt::QueuedConnection);
-}
-
-void frmCrestCurve::ReportFieldProblem() {
-    QPointer<QLineEdit> field = m_pendingField;
-    m_pendingField = nullptr;
-    if (!field) return;
-    // A command that ran in between (a mode switch empties the sheet) may have put
-    // the field right; report only what still holds.
-    const auto message = CheckCurveFieldOnLeave(GatherSheet(), field->objectName().toStdString());
-    if (!message) return;
-    Report(Refusal{std::string(*message), field->objectName().toStdString(), -1});
-}
-
 void frmCrestCurve::Report(const Refusal& refusal) {
-    {
-        QScopedValueRollback<bool> guard(m_movingFocus, true);
-        gw::ShowRefusal(m_platform, this, QString::fromStdString(refusal.message));
-    }
+    gw::ShowRefusal(m_platform, this, QString::fromStdString(refusal.message));
     PutFocusBack(Field(refusal.field));
 }
 
 void frmCrestCurve::PutFocusBack(QLineEdit* field) {
     if (!field) return;
-    QScopedValueRollback<bool> guard(m_movingFocus, true);
     // Without a window manager nothing re-activates our window after a box closes.
     if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) {
         if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
