@@ -1,6 +1,8 @@
 #include "auto_stationing.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "elevations.h"
 #include "field_checks.h"
@@ -97,14 +99,14 @@ std::vector<std::string_view> AutoStationing::CheckOnLeave(std::string_view fiel
 
 Outcome AutoStationing::Accept() {
     if (!optSpacing) {
-        // A count that is not a number, above 20 or below 0 is refused here rather
-        // than filling rows from a guess: the user keeps the dialog and the rows.
+        // A count that is not a number or above 20 is refused here rather than filling
+        // rows from a guess: the user keeps the dialog and the rows. A negative count
+        // is an answer: the rows are emptied and none is filled.
         if (!IsNumericText(txtPoints)) return Refuse(msg::kMustBeNumeric, "txtPoints");
         const double value = ReadNumber(txtPoints);
         if (value > 20) return Refuse(msg::kPointsOver20, "txtPoints");
         const double whole = std::nearbyint(value);  // halves to the even neighbour
-        if (whole < 0) return Refuse(msg::kPointsNegative, "txtPoints");
-        ipoints = static_cast<std::int16_t>(whole);
+        ipoints = static_cast<std::int16_t>(std::max(whole, double(INT16_MIN)));
         return std::nullopt;
     }
     for (std::string_view name : {"txtBeginSTA", "txtBeginSTAM", "txtIncSTA", "txtIncSTAM"}) {

@@ -35,7 +35,6 @@ inline constexpr std::string_view kAtMostPVT = "Must be <= to PVTSTA.";
 
 // Auto stationing.
 inline constexpr std::string_view kPointsOver20 = "Points can not be more than 20.";
-inline constexpr std::string_view kPointsNegative = "Points can not be less than 0.";
 inline constexpr std::string_view kBeginOffCurveField = "Beginning Station must be between PVC and PVT stations.";
 inline constexpr std::string_view kBeginOffCurveOK = "Beginning station must be between PVC and PVT stations";
 inline constexpr std::string_view kIncrementPositive = "Increment must be greater than 0.";

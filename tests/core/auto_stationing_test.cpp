@@ -100,7 +100,6 @@ TEST(AutoStationingOkTest, RefusesWhatCannotBeLaidOut) {
     const Row rows[] = {
         {"txtPoints", "25", "Points can not be more than 20.", "txtPoints"},
         {"txtPoints", "", "Must be numeric.", "txtPoints"},
-        {"txtPoints", "-5", "Points can not be less than 0.", "txtPoints"},
         {"txtBeginSTA", "9", "Beginning station must be between PVC and PVT stations", "txtBeginSTA"},
         {"txtIncSTAM", "-5", "Increment must be greater than 0.", "txtIncSTA"},  // with 1 whole station
         {"txtIncSTAM", "5", "", ""},
@@ -143,6 +142,20 @@ TEST(AutoStationingFillTest, ZeroCountOrIncrementAndCancelLeaveRowsAlone) {
 
     EXPECT_EQ(s.elevations.rows[0].txtTotalTopSlab1, "101.5");
     EXPECT_FALSE(s.changed);
+}
+
+TEST(AutoStationingFillTest, ANegativeCountEmptiesTheRowsAndFillsNone) {
+    CurveSheet s = ShownCurve();
+    s.elevations.rows[0] = {"11", "0", "101.5"};
+    AutoStationing d = NewAutoStationing(s);
+    d.txtPoints = "-5";
+    ASSERT_FALSE(d.Accept());  // the dialog hides
+    bool filled = false;
+    EXPECT_FALSE(ApplyAutoStationing(s, d, &filled));
+    EXPECT_TRUE(filled);
+    EXPECT_TRUE(s.changed);
+    for (const ElevationRow& row : s.elevations.rows) EXPECT_EQ(row.txtTOTSTA1 + row.txtTOTSTAM1 + row.txtTotalTopSlab1, "");
+    EXPECT_TRUE(s.elevations.bCalcOK);  // Calculate TOS ran over the empty rows
 }
 
 TEST(AutoStationingFillTest, OnePointIsThePvcAndNoRowGoesPastNineteen) {
