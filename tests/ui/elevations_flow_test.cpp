@@ -149,6 +149,25 @@ TEST_F(ElevationsFlowTest, AutoStationingFillsTheRowsOnOkAndKeepsItsDialogOnARef
     EXPECT_EQ(Messages(), QStringList{"Increment must be greater than 0."});
 }
 
+TEST_F(ElevationsFlowTest, EnterClicksTheFocusedButtonElseCancel) {
+    frmCrestCurve& w = SolvedEnglishCurve();
+    CalculateElevations(w, [this](ElevationsWindow& e) {
+        AutoStation(e, [](AutoStationDialog& d) {
+            d.findChild<QPushButton*>("OKButton")->setFocus(Qt::TabFocusReason);
+            d.Field("txtPoints")->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(d.Field("txtPoints"), Qt::Key_Return);  // in a field: Cancel
+        });
+        EXPECT_EQ(e.RowField("txtTOTSTA1", 0)->text(), "");
+        AutoStation(e, [](AutoStationDialog& d) {
+            QPushButton* ok = d.findChild<QPushButton*>("OKButton");
+            ok->setFocus(Qt::TabFocusReason);
+            QTest::keyClick(ok, Qt::Key_Return);
+        });
+        EXPECT_EQ(e.RowField("txtTOTSTA1", 9)->text(), "14");  // ten points from OK
+        PressOK(e);
+    });
+}
+
 // A click that leaves a bad field does nothing, however quickly it follows the
 // typing: the field's messages show once each and the window stays, with the focus
 // back in the field.

@@ -80,11 +80,12 @@ void AutoStationDialog::BuildControls() {
     m_OKButton = new QPushButton(kOK, this);
     m_OKButton->setObjectName("OKButton");
     m_OKButton->setGeometry(88, 192, 57, 25);
-    m_OKButton->setAutoDefault(false);
     m_CancelButton = new QPushButton(kCancel, this);
     m_CancelButton->setObjectName("CancelButton");
     m_CancelButton->setGeometry(152, 192, 57, 25);
-    // Cancel is both the default and the cancel button: Enter in a field cancels.
+    // Cancel is both the default and the cancel button: Enter in a field cancels,
+    // while a button that has the focus takes Enter itself.
+    m_OKButton->setAutoDefault(true);
     m_CancelButton->setDefault(true);
     connect(m_OKButton, &QPushButton::clicked, this, &AutoStationDialog::OKButton_Click);
     connect(m_CancelButton, &QPushButton::clicked, this, &AutoStationDialog::CancelButton_Click);
