@@ -1,6 +1,7 @@
 #include "scripted_platform.h"
 
 #include <QDialog>
+#include <QWindow>
 
 
 namespace gw {
@@ -62,8 +63,13 @@ void ScriptedPlatform::ClearRecords() {
     m_openedUrls.clear();
 }
 
-MessageButton ScriptedPlatform::ShowMessage(QWidget*, const MessageRequest& request) {
+MessageButton ScriptedPlatform::ShowMessage(QWidget* owner, const MessageRequest& request) {
     m_messages.push_back(request);
+    // A box must come over its window, not before the window is on the screen.
+    const QWindow* handle = owner ? owner->window()->windowHandle() : nullptr;
+    if (owner && (!handle || !handle->isExposed())) {
+        Unexpected(QStringLiteral("message box before its window is on the screen: \"%1\"").arg(request.text));
+    }
     if (m_busy) ++m_messagesUnderBusy;
     MessageButton answer{};
     if (TakeNext(m_messageAnswers, answer)) return answer;

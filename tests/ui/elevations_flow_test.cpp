@@ -149,6 +149,29 @@ TEST_F(ElevationsFlowTest, AutoStationingFillsTheRowsOnOkAndKeepsItsDialogOnARef
     EXPECT_EQ(Messages(), QStringList{"Increment must be greater than 0."});
 }
 
+TEST_F(ElevationsFlowTest, ARangeMessageOnOpeningComesOverTheShownWindow) {
+    // A saved English crest curve, PVC 10+00, whose first row lies before the PVC.
+    PutBytes(FilePath("before-pvc.gwf"),
+             "\"SSD\",\"English\",,,,\"0\"\r\n"
+             "\"104\",\"12\",\"-2\",\"2\",\"400\",\"100.0\",\"0.0\"\r\n"
+             "\"14\",\"100.0\",\"0.0\",\"10\",\"364.5545\",\"2.0\"\r\n"
+             "#TRUE#,#FALSE#,\"12\",\"0.0\"\r\n"
+             "\"9\",\"11\"" + QByteArray(",\"\"").repeated(18) + "\r\n"
+             "\"50\",\"0\"" + QByteArray(",\"\"").repeated(18) + "\r\n" +
+             QByteArray("\"\"") + QByteArray(",\"\"").repeated(19) + "\r\n"
+             "\"\",\"\",\"\"\r\n");
+    frmCrestCurve* w = Open(FilePath("before-pvc.gwf"));
+    ASSERT_NE(w, nullptr);
+    m_platform.AnswerMessage(MessageButton::Ok);
+    CalculateElevations(*w, [](ElevationsWindow& e) {
+        QApplication::processEvents();
+        EXPECT_TRUE(e.isVisible());
+        EXPECT_EQ(QApplication::focusWidget(), e.RowField("txtTOTSTAM1", 0));
+        e.close();
+    });
+    EXPECT_EQ(Messages(), QStringList{"Top of Slab Station must be between PVC and PVT stations."});
+}
+
 TEST_F(ElevationsFlowTest, EnterClicksTheFocusedButtonElseCancel) {
     frmCrestCurve& w = SolvedEnglishCurve();
     CalculateElevations(w, [this](ElevationsWindow& e) {

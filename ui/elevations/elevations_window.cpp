@@ -12,6 +12,7 @@
 #include "platform/platform.h"
 #include "ui/common/field_style.h"
 #include "ui/common/leave_checks.h"
+#include "ui/common/on_screen.h"
 #include "ui/common/typing_limit.h"
 #include "ui/elevations/auto_station_dialog.h"
 #include "ui/elevations/elevations_slot.h"
@@ -243,7 +244,8 @@ void ElevationsWindow::Form_Activate() {
     SetUnitLabels(sheet);
     const Outcome outcome = ActivateElevations(sheet);
     Scatter(sheet);
-    Report(outcome);
+    // Activation runs as the window is being shown: its message comes over it.
+    if (outcome) WhenOnScreen(*this, [this, outcome] { Report(outcome); });
 }
 
 void ElevationsWindow::cmdCalculateTOS_Click() {
