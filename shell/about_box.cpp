@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "app_icon.h"
+#include "ui/common/field_style.h"
 
 namespace gw {
 namespace {
@@ -38,6 +39,7 @@ frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
     setObjectName(QStringLiteral("frmAbout"));
     setWindowTitle(QStringLiteral("About Gradewise"));
     setFixedSize(Px(5820), Px(3795));
+    setFont(DialogFont());
     setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
 
     auto* ok = new QPushButton(QStringLiteral("OK"), this);

@@ -4,6 +4,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "ui/common/field_style.h"
+
 namespace gw {
 namespace {
 
@@ -19,6 +21,7 @@ frmInformation::frmInformation(QWidget* parent)
     setObjectName(QStringLiteral("frmInformation"));
     setWindowTitle(QStringLiteral("Measurement Info"));
     setFixedSize(Twips(0, 0, 1965, 2355).size());
+    setFont(DialogFont());
 
     auto* frame = new QGroupBox(QStringLiteral("Units"), this);
     frame->setObjectName(QStringLiteral("frUnits"));

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QFont>
 #include <QLineEdit>
 #include <QPalette>
 
@@ -33,13 +34,18 @@ void StyleAsResult(QLineEdit& field) {
 
 bool IsResult(const QLineEdit& field) { return field.isReadOnly(); }
 
+QFont DialogFont() {
+    // Arial resolves to its metric twin where it is not installed.
+    QFont font(QStringLiteral("Arial"));
+    font.setPixelSize(10);
+    return font;
+}
+
 void SetUpFixedDialog(QDialog& dialog, const char* objectName, const char* title, QSize size) {
     dialog.setObjectName(QString::fromLatin1(objectName));
     dialog.setWindowTitle(QString::fromLatin1(title));
     dialog.setFixedSize(size);
-    QFont small = dialog.font();
-    small.setPointSizeF(8);
-    dialog.setFont(small);
+    dialog.setFont(DialogFont());
     dialog.setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
 }
 

@@ -6,6 +6,7 @@
 #include <QSize>
 
 class QDialog;
+class QFont;
 class QLineEdit;
 
 namespace gw {
@@ -14,8 +15,11 @@ void StyleAsInput(QLineEdit& field);
 void StyleAsResult(QLineEdit& field);
 bool IsResult(const QLineEdit& field);
 
-// A fixed-size dialog with a close box and the small font its pixel layout is drawn
-// for (a larger one runs labels into fields).
+// The font the fixed dialogs are laid out for: every caption is whole inside its
+// place, and no label runs into the field beside it.
+QFont DialogFont();
+
+// A fixed-size dialog with a close box and the dialog font.
 void SetUpFixedDialog(QDialog& dialog, const char* objectName, const char* title, QSize size);
 
 }  // namespace gw
