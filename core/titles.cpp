@@ -16,9 +16,12 @@ bool IsUntitledTitle(std::string_view title) {
 }
 
 std::string PathFromTitle(std::string_view title) {
-    size_t colon = title.find(':');
-    if (colon == std::string_view::npos || colon + 2 > title.size()) return {};
-    return std::string(title.substr(colon + 2));
+    // The last (length - position of the first colon - 1) characters, the position
+    // counting from 1 and being 0 when there is no colon.
+    const size_t colon = title.find(':');
+    const size_t position = colon == std::string_view::npos ? 0 : colon + 1;
+    if (position + 1 > title.size()) return {};
+    return std::string(title.substr(position + 1));
 }
 
 std::string CurveNameFromTitle(std::string_view title) {

@@ -13,7 +13,8 @@ std::string UntitledTitle(bool metric);
 // True when the last eight characters are exactly "Untitled".
 bool IsUntitledTitle(std::string_view title);
 
-// The text after the first colon less one character; empty without a colon.
+// The text after the first colon less one character; without a colon, the title
+// less its first character (a window of unknown units keeps its design caption).
 std::string PathFromTitle(std::string_view title);
 
 // The name the close question shows: "Untitled" or the path in the title.

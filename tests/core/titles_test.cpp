@@ -26,6 +26,13 @@ TEST(TitleTest, SaveAsReplacesEverythingAfterTheColonAndBlank) {
     EXPECT_EQ(PathFromTitle("Vertical Curve - English: C:\\a.gwf"), "C:\\a.gwf");
 }
 
+TEST(TitleTest, ATitleWithoutAColonNamesItsPathByTheSameCount) {
+    // The colon's position is then 0: the title less its first character.
+    EXPECT_EQ(PathFromTitle("Vertical Curve"), "ertical Curve");
+    EXPECT_EQ(CurveNameFromTitle("Vertical Curve"), "ertical Curve");
+    EXPECT_EQ(PathFromTitle("Vertical Curve:"), "");
+}
+
 TEST(TitleTest, LoadedFilesAreTitledByTheStoredUnits) {
     EXPECT_EQ(TitleForLoadedFile("X", "English", "/p.gwf"), "Vertical Curve - English: /p.gwf");
     EXPECT_EQ(TitleForLoadedFile("Vertical Curve - Metric: Untitled", "Imperial", "/p.gwf"),
