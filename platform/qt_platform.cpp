@@ -63,6 +63,27 @@ std::optional<QString> RunFileDialog(QWidget* owner, const FileDialogRequest& re
     return chosen.first();
 }
 
+// Each copy of the report is a page of its own, printed by the report itself: a
+// page range, a set of odd or even pages, collating or reversing would pick or
+// reorder copies. Where the printing system can select pages itself the dialog
+// shows those choices whatever its options say, so they are hidden once it is up.
+class PrintChoicesHider final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Show) {
+            for (const char* name : {"gbPrintRange", "pageSetLabel", "pageSetCombo", "collate", "reverse", "outputIcon"}) {
+                if (auto* w = watched->findChild<QWidget*>(QString::fromLatin1(name))) w->hide();
+            }
+        }
+        return false;
+    }
+};
+
+void OfferOnlyPrinterAndCopies(QPrintDialog& dialog) { dialog.installEventFilter(new PrintChoicesHider(&dialog)); }
+
 }  // namespace
 
 QtPlatform::QtPlatform() = default;
@@ -118,10 +139,14 @@ std::optional<int> QtPlatform::ShowPrintDialog(QWidget* owner, int copies) {
     dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
     dialog.setOption(QAbstractPrintDialog::PrintToFile, false);
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
+    dialog.setOption(QAbstractPrintDialog::PrintCollateCopies, false);
     dialog.setMinMax(1, 1);
     printer.setFromTo(1, 1);
+    OfferOnlyPrinterAndCopies(dialog);
     GuardModal(dialog, ModalSize::Resizable);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+    printer.setPrintRange(QPrinter::AllPages);
+    printer.setPageOrder(QPrinter::FirstPageFirst);
     // The report prints each copy itself, so the printer must not repeat it.
     const int chosen = printer.copyCount();
     printer.setCopyCount(1);
