@@ -34,6 +34,7 @@ public:
     void AnswerSaveFile(std::optional<QString> path) { m_saveAnswers.push_back(std::move(path)); }
     void AnswerPrintDialog(std::optional<int> copies) { m_printAnswers.push_back(copies); }
     void SetNow(const QDateTime& now) { m_now = now; }
+    void SetLocale(const QLocale& locale) { m_locale = locale; }
 
     const std::vector<MessageRequest>& Messages() const { return m_messages; }
     QStringList MessageTexts() const;
@@ -63,7 +64,7 @@ public:
     SettingsStore& Settings() override;
     void SetBusyCursor(bool busy) override;
     QDateTime Now() const override;
-    QLocale Locale() const override { return QLocale::c(); }
+    QLocale Locale() const override { return m_locale; }
     void OpenUrl(const QString& url) override { m_openedUrls << url; }
 
 private:
@@ -80,6 +81,7 @@ private:
     std::vector<PrintedLine> m_printed;
     QStringList m_openedUrls;
     QDateTime m_now;
+    QLocale m_locale = QLocale::c();
     std::unique_ptr<SettingsStore> m_settings;
     bool m_busy = false;
     int m_busySpells = 0;

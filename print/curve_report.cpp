@@ -5,6 +5,7 @@
 #include "core/curve_sheet.h"
 #include "core/report.h"
 #include "platform/platform.h"
+#include "print/clock_text.h"
 #include "print/report_copies.h"
 
 namespace gw {
@@ -15,9 +16,8 @@ void PrintCurveReport(Platform& platform, QWidget* owner, const CurveSheet* shee
     if (const std::optional<int> copies = platform.ShowPrintDialog(owner, 1)) {
         const QDateTime now = platform.Now();
         const QLocale locale = platform.Locale();
-        const std::vector<std::string> lines =
-            ReportLines(*sheet, locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
-                        locale.toString(now.time(), QLocale::ShortFormat).toStdString());
+        const std::vector<std::string> lines = ReportLines(*sheet, ShortDateText(locale, now.date()).toStdString(),
+                                                           TimeOfDayText(locale, now.time()).toStdString());
         // Failures of the printer are skipped without a message, as printing has no
         // way to report them here.
         if (std::unique_ptr<LinePrinter> job = platform.StartPrintJob(QStringLiteral("Gradewise"))) {

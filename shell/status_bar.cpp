@@ -4,6 +4,7 @@
 #include <QTimer>
 
 #include "platform/platform.h"
+#include "print/clock_text.h"
 
 namespace gw {
 namespace {
@@ -48,8 +49,8 @@ QString MainStatusBar::TimeText() const { return m_time->text(); }
 void MainStatusBar::Refresh() {
     const QDateTime now = m_platform.Now();
     const QLocale locale = m_platform.Locale();
-    m_date->setText(locale.toString(now.date(), QLocale::ShortFormat));
-    m_time->setText(locale.toString(now.time(), QLocale::LongFormat));
+    m_date->setText(ShortDateText(locale, now.date()));
+    m_time->setText(TimeOfDayText(locale, now.time()));
 }
 
 }  // namespace gw

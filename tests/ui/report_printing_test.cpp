@@ -10,6 +10,7 @@
 #include "tests/qt_test_printers.h"
 #include "core/report.h"
 #include "platform/scripted_platform.h"
+#include "print/clock_text.h"
 #include "print/curve_report.h"
 #include "print/page_printer.h"
 #include "print/report_copies.h"
@@ -88,6 +89,20 @@ TEST(PagePrinterTest, ThreeCopiesMakeThreePagesAndNoEmptyOneAfter) {
     }
 }
 
+// The report's heading and the status bar: the time of day with its seconds and
+// without a time zone, in each locale's own way.
+TEST(ClockTextTest, TimeOfDayKeepsTheSecondsAndDropsTheZone) {
+    struct Row {
+        const char* locale;
+        const char* text;
+    };
+    for (const Row& r : {Row{"C", "13:40:04"}, Row{"en_US", "1:40:04 PM"}, Row{"de_DE", "13:40:04"},
+                         Row{"fr_CA", "13 h 40 min 04 s"}, Row{"zh_CN", "13:40:04"}, Row{"es_ES", "13:40:04"},
+                         Row{"bg_BG", "13:40:04 \u0447."}}) {
+        EXPECT_EQ(TimeOfDayText(QLocale(r.locale), QTime(13, 40, 4)), QString::fromUtf8(r.text)) << r.locale;
+    }
+}
+
 class PrintCommandTest : public ::testing::Test {
 protected:
     PrintCommandTest() {
@@ -115,16 +130,12 @@ TEST_F(PrintCommandTest, CancelPrintsNothingAndRestoresThePointer) {
 
 TEST_F(PrintCommandTest, CopiesArePagesOfTheWholeReportDatedNow) {
     const CurveSheet sheet = SolvedCurve();
+    platform.SetLocale(QLocale("en_US"));
     platform.AnswerPrintDialog(3);
     PrintCurveReport(platform, nullptr, &sheet);
     QStringList expected;
-    const QLocale& locale = platform.Locale();
-    const QDateTime now = platform.Now();
-    for (const std::string& line : ReportLines(sheet, locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
-                                               locale.toString(now.time(), QLocale::ShortFormat).toStdString())) {
-        expected << QString::fromStdString(line);
-    }
-    EXPECT_EQ(PrintedPage(1), expected);
+    for (const std::string& line : ReportLines(sheet, "11/23/26", "8:05:00 AM")) expected << QString::fromStdString(line);
+    EXPECT_EQ(PrintedPage(1), expected);  // dated in the locale's formats, the time with its seconds
     EXPECT_EQ(PrintedPage(3), expected);
     EXPECT_TRUE(PrintedPage(4).isEmpty());
     EXPECT_FALSE(platform.Busy());
