@@ -34,6 +34,8 @@ QAction* Separator(QMenu& menu, const char* name) {
 MainMenus BuildMainMenus(QMenuBar& bar) {
     MainMenus m;
     m.mnuFile = Menu(bar, "mnuFile", "&File");
+    // The separator after Exit is always drawn, recent files or none.
+    m.mnuFile->setSeparatorsCollapsible(false);
     m.mnuOpen = Entry(*m.mnuFile, "mnuOpen", "&Open");
     m.mnuSave = Entry(*m.mnuFile, "mnuSave", "&Save");
     m.mnuSaveAs = Entry(*m.mnuFile, "mnuSaveAs", "Save&As");

@@ -47,8 +47,13 @@ protected:
 TEST_F(MainWindowTest, MenusReadAsDesignedWithSpiralAndHorizontalGreyed) {
     const MainMenus& m = Main().Menus();
     EXPECT_EQ(Main().windowTitle(), QStringLiteral("Gradewise"));
-    // A first run has no recent files: the File menu ends with the separator after Exit.
+    // A first run has no recent files: the File menu ends with the separator after Exit,
+    // drawn even though nothing follows it.
     EXPECT_EQ(EntryTexts(m.mnuFile), (QStringList{"&Open", "&Save", "Save&As", "&Print", "E&xit", "-"}));
+    m.mnuFile->popup(QPoint(0, 0));
+    Settle();
+    EXPECT_GT(m.mnuFile->actionGeometry(m.mnuSeparator).height(), 0);
+    m.mnuFile->close();
     EXPECT_EQ(EntryTexts(m.mnuCurves), (QStringList{"&Vertical", "&Spiral", "&Horizontal"}));
     EXPECT_EQ(EntryTexts(m.mnuWindow), (QStringList{"&Cascade", "Tile &Horizontal", "Tile &Vertical",
                                                     "&Arrange Icons", "-", "Close All"}));
