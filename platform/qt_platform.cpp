@@ -7,6 +7,7 @@
 #include <QMessageBox>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QSettings>
 #include <QUrl>
 
 #include "modal_guard.h"
@@ -86,7 +87,14 @@ void OfferOnlyPrinterAndCopies(QPrintDialog& dialog) { dialog.installEventFilter
 
 }  // namespace
 
-QtPlatform::QtPlatform() = default;
+QtPlatform::QtPlatform() {
+    // Qt's own dialogs keep their state (the file dialog's last folder and history) in
+    // Qt's settings; only the program's own store may be written per user, so Qt's
+    // settings are sent where no file can be made, for root too.
+    for (QSettings::Format format : {QSettings::NativeFormat, QSettings::IniFormat}) {
+        QSettings::setPath(format, QSettings::UserScope, QStringLiteral("/dev/null"));
+    }
+}
 QtPlatform::~QtPlatform() = default;
 
 MessageButton QtPlatform::ShowMessage(QWidget* owner, const MessageRequest& request) {

@@ -7,7 +7,9 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QLineEdit>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <functional>
@@ -76,6 +78,16 @@ TEST(QtFileDialogTest, OpenDialogGivesATypedNameThatDoesNotExist) {
     });
     const std::optional<QString> chosen = platform.GetOpenFileName(nullptr, CurveRequest(folder.path(), {}));
     EXPECT_EQ(chosen, QDir(folder.path()).filePath("nothing"));
+}
+
+TEST(QtFileDialogTest, TheDialogKeepsNothingOfItsOwnPerUser) {
+    QTemporaryDir folder;
+    QtPlatform platform;
+    WhenShown([](QFileDialog& d) { d.reject(); });
+    platform.GetOpenFileName(nullptr, CurveRequest(folder.path(), {}));
+    // Where Qt keeps the dialog's last folder and history: nothing may be there.
+    const QString qtOwn = QSettings(QSettings::UserScope, QStringLiteral("QtProject")).fileName();
+    EXPECT_FALSE(QFileInfo::exists(qtOwn)) << qtOwn.toStdString();
 }
 
 }  // namespace
