@@ -8,3 +8,5 @@ BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation 
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev xvfb xauth fonts-liberation poppler-utils
   desktop-file-utils libxml2-utils shared-mime-info)
 FUZZ_PACKAGES=(clang libclang-rt-14-dev)
+# xvfb-run, which run.sh suggests when there is no display.
+VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)

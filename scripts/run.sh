@@ -11,13 +11,15 @@ if [ $# -gt 0 ]; then
   exec build/release/cli/gradewise-cli "$@"
 fi
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
-  cat >&2 <<'MSG'
-There is no display to show Gradewise on ($DISPLAY and $WAYLAND_DISPLAY are unset).
+  # The virtual display suggested below must work as printed.
+  scripts/ensure-packages.sh "${VIRTUAL_DISPLAY_PACKAGES[@]}"
+  cat >&2 <<MSG
+There is no display to show Gradewise on (\$DISPLAY and \$WAYLAND_DISPLAY are unset).
 Run it from a desktop session, or on a virtual X display with xvfb-run:
 
-    xvfb-run -a build/release/app/gradewise
+    xvfb-run -a $PWD/build/release/app/gradewise
 
-(gradewise-cli works without a display: ./scripts/run.sh --help)
+(gradewise-cli works without a display: $PWD/scripts/run.sh --help)
 MSG
   exit 1
 fi
