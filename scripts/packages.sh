@@ -4,9 +4,10 @@
 # metric twin; libxcb1-dev writes the window-manager hints of fixed dialogs.
 BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation libxcb1-dev)
 # desktop-file-utils, libxml2-utils and shared-mime-info check the installed desktop entry,
-# icon and curve-file type.
+# icon and curve-file type; openbox, xdotool and x11-utils run the desktop program under
+# a window manager on Xvfb and drive it as a user would (tests/e2e).
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev xvfb xauth fonts-liberation poppler-utils
-  desktop-file-utils libxml2-utils shared-mime-info)
+  desktop-file-utils libxml2-utils shared-mime-info openbox xdotool x11-utils)
 FUZZ_PACKAGES=(clang libclang-rt-14-dev)
 # xvfb-run, which run.sh suggests when there is no display.
 VIRTUAL_DISPLAY_PACKAGES=(xvfb xauth)
