@@ -149,6 +149,18 @@ exit_gradewise() {
   keys x
 }
 
+# Types the values into a curve window's inputs from the focused one on, Tab between
+# them, and solves with Enter in the last.
+type_and_solve() {
+  local value first=1
+  for value in "$@"; do
+    [ $first = 1 ] || keys Tab
+    first=0
+    type_text "$value"
+  done
+  keys Return
+}
+
 # Options > Curves > Vertical, answered with the units given (Metric or English;
 # none keeps the dialog's choice).
 new_curve() {

@@ -20,17 +20,6 @@ unsolved_file() {
     "$pvt" "$pvc_elev" "$pvc_plus" "$pvc" "$options" "$empties20" "$empties20" "$empties20"
 }
 
-# Types the values, Tab between them, and solves with Enter in the last one.
-type_inputs() {
-  local value first=1
-  for value in "$@"; do
-    [ $first = 1 ] || keys Tab
-    first=0
-    type_text "$value"
-  done
-  keys Return
-}
-
 save_as() {
   local dialogs
   dialogs=$(windows_named '.')
@@ -48,7 +37,7 @@ save_as() {
 
 # PVI mode, English: PVI 12+00 at 104 ft, grades 2 % and -2 %, 400 ft of curve.
 new_curve English
-type_inputs 12 0 104 2 -2 400
+type_and_solve 12 0 104 2 -2 400
 save_as "$WORK/pvi.gwf"
 unsolved_file English 0 104 12 -2 2 400 "" "" "" "" "" "" '#TRUE#,#FALSE#' >"$WORK/pvi-in.gwf"
 "$GRADEWISE_CLI" solve "$WORK/pvi-in.gwf" >"$WORK/pvi-cli.gwf"
@@ -59,7 +48,7 @@ cmp "$WORK/pvi.gwf" "$WORK/pvi-cli.gwf" || { diff "$WORK/pvi.gwf" "$WORK/pvi-cli
 new_curve Metric
 keys shift+Tab space
 sleep 0.2
-type_inputs -2 1 900 250 2 100 251
+type_and_solve -2 1 900 250 2 100 251
 save_as "$WORK/pvcpvt.gwf"
 unsolved_file Metric "" "" "" "" -2 "" 251 100 2 250 900 1 '#FALSE#,#TRUE#' >"$WORK/pvcpvt-in.gwf"
 "$GRADEWISE_CLI" solve "$WORK/pvcpvt-in.gwf" >"$WORK/pvcpvt-cli.gwf"
