@@ -43,5 +43,7 @@ CurveGeometry ReadCurveGeometry(const CurveSheet& solved);
 // A station value as WHOLE+PLUS with the plus part padded to the station's width
 // ("10+00.0", "2+050.0", "-0+25.0"), in the number format.
 std::string StationText(double value, bool metric);
+// The same text appended to `out`, for long tables.
+void AppendStationText(std::string& out, double value, bool metric);
 
 }  // namespace gw
