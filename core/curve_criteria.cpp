@@ -56,7 +56,11 @@ std::vector<CriterionResult> Criteria(const VerticalCurve& curve, const CheckSet
                 StructureMinimumLength(A, S, *s.clearance, eye, light), true, true);
         }
     }
-    add(Criterion::GeneralMinimum, 0, 0, {GeneralMinimumLength(row.speed, metric), true}, false, true);
+    // A bare grade break has no curve to be worth building; the sight distances
+    // still say whether it needs one.
+    if (curve.length() > 0) {
+        add(Criterion::GeneralMinimum, 0, 0, {GeneralMinimumLength(row.speed, metric), true}, false, true);
+    }
     return out;
 }
 
@@ -100,10 +104,12 @@ CurveCheck CheckCurve(const VerticalCurve& curve, const CheckSettings& settings)
     }
     out.longEnough = AllCountedMet(out.criteria);
 
-    out.drainage.flatZone = curve.FlatZone(kFlatGrade);
-    out.drainage.levelPoint = curve.TurningPoint().has_value();
     out.drainage.maximumK = CurbedDrainageMaximumK(settings.metric);
-    out.drainage.warn = out.drainage.levelPoint && *curve.RateOfCurvature() > out.drainage.maximumK;
+    if (curve.length() > 0) {
+        out.drainage.flatZone = curve.FlatZone(kFlatGrade);
+        out.drainage.levelPoint = curve.TurningPoint().has_value();
+        out.drainage.warn = out.drainage.levelPoint && *curve.RateOfCurvature() > out.drainage.maximumK;
+    }
 
     // Every minimum grows with the speed, so the speeds a curve supports run from
     // the slowest up to the first it does not.

@@ -67,6 +67,8 @@ struct CurveCheck {
 };
 
 // The settings must be valid. Equal grades need no curve: no criteria, long enough.
+// A bare grade break is a curve of length 0: the sight distances and comfort say
+// whether it needs a curve; the general minimum and drainage are for curves built.
 CurveCheck CheckCurve(const VerticalCurve& curve, const CheckSettings& settings);
 
 }  // namespace gw

@@ -19,6 +19,10 @@ ControlPointDesign LengthThroughPoint(const CurveFrame& f, double station, doubl
     const double d = station - f.pviStation;
     const double D = elevation - f.pviElevation - f.g1 / 100 * d;
     const double qa = a / 4, qb = a * d - 2 * D, qc = a * d * d;
+    out.qa = qa;
+    out.qb = qb;
+    out.qc = qc;
+    out.reach = 2 * std::fabs(d);
     const double discriminant = qb * qb - 4 * qa * qc;
     if (discriminant < 0) return out;
     // The form that does not subtract nearly equal numbers for the smaller root.

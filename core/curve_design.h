@@ -28,6 +28,8 @@ struct ControlPointDesign {
     // height above the entering tangent produced. Empty when none is real.
     std::vector<Root> roots;
     std::optional<double> length;  // the valid root; none: no curve passes the point
+    double qa = 0, qb = 0, qc = 0;  // the quadratic's coefficients, for showing it
+    double reach = 0;               // 2 |d|: the shortest curve that reaches the point
 };
 
 // The length of the symmetric curve that passes through a point. Its product of

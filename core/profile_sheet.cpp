@@ -53,7 +53,7 @@ StationTexts StationFieldTexts(double value, bool metric) {
     return t;
 }
 
-CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, const CurveFileExtras* extras) {
+CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, bool endsMode) {
     const VerticalCurve& c = *profile.pvis()[index].curve;
     const bool metric = profile.metric();
     CurveSheet s = NewCurveSheet(metric ? kMetric : kEnglish);
@@ -62,7 +62,7 @@ CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, const Cur
         whole = t.whole;
         plus = t.plus;
     };
-    if (extras && extras->endsMode) {
+    if (endsMode) {
         SwitchToPVCPVTMode(s);
         station(s.txtPVCSTA, s.txtPVCSTAM, c.pvc());
         s.txtPVCEval = PlainNumberText(c.pvcElevation());
@@ -75,16 +75,17 @@ CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, const Cur
         s.txtLC = PlainNumberText(c.length());
     }
     s.txtG1 = PlainNumberText(c.g1());
-    if (extras) {
-        for (int i = 0; i < kRowCount; ++i) {
-            s.elevations.rows[i].txtTOTSTA1 = extras->rows[i].first;
-            s.elevations.rows[i].txtTOTSTAM1 = extras->rows[i].second;
-        }
-        s.elevations.txtVOffset = extras->verticalOffset;
-        s.elevations.txtHOffset = extras->horizontalOffset;
-        s.elevations.txtXSlope = extras->crossSlope;
-    }
     return s;
+}
+
+void PutRowsAndOffsets(const CurveFileExtras& extras, CurveSheet& s) {
+    for (int i = 0; i < kRowCount; ++i) {
+        s.elevations.rows[i].txtTOTSTA1 = extras.rows[i].first;
+        s.elevations.rows[i].txtTOTSTAM1 = extras.rows[i].second;
+    }
+    s.elevations.txtVOffset = extras.verticalOffset;
+    s.elevations.txtHOffset = extras.horizontalOffset;
+    s.elevations.txtXSlope = extras.crossSlope;
 }
 
 }  // namespace gw

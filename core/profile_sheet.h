@@ -40,9 +40,12 @@ ProfileDocument ProfileFromSheet(const CurveSheet& solved, std::string name);
 // 1234.56 ft gives "12" and "34.56", -25 gives "0" and "-25".
 StationTexts StationFieldTexts(double value, bool metric);
 
-// The symmetric curve at PVI `index` as a new, unsolved sheet in the PVI mode, or in
-// the mode of the extras with their rows and offsets. Every number is written with
-// its 15 significant digits.
-CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, const CurveFileExtras* extras);
+// The symmetric curve at PVI `index` as a new, unsolved sheet in the PVI mode or in
+// the PVC/PVT mode. Every number is written with its 15 significant digits.
+CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, bool endsMode);
+
+// The rows' stations and the offsets of the extras into the sheet's elevations
+// window; the first solve of a sheet empties its rows, so this comes after it.
+void PutRowsAndOffsets(const CurveFileExtras& extras, CurveSheet& sheet);
 
 }  // namespace gw

@@ -11,8 +11,9 @@ namespace gw {
 
 class VerticalCurve {
 public:
-    // Grades in percent; lengths in ft or m, both greater than 0. A symmetric curve
-    // has L1 = L2 = L / 2.
+    // Grades in percent; lengths in ft or m, both greater than 0 (or both 0 for a bare
+    // grade break, which has no elevations of its own). A symmetric curve has
+    // L1 = L2 = L / 2.
     VerticalCurve(double pviStation, double pviElevation, double g1, double g2, double lengthIn, double lengthOut,
                   bool symmetric);
 
