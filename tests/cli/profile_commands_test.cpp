@@ -177,6 +177,9 @@ TEST_F(ProfileCommandsTest, ImportStatuses) {
     const Result bare = Run(Import(4), file);
     EXPECT_EQ(bare.status, 2);
     EXPECT_EQ(bare.err, "gradewise-cli: PVI 4 (line 5) has no vertical curve; curves are at PVI 2, PVI 3\n");
+    const Result past = Run(Import(6), file);
+    EXPECT_EQ(past.status, 2);
+    EXPECT_EQ(past.err, "gradewise-cli: the profile has PVI 1 to PVI 5; curves are at PVI 2, PVI 3\n");
     // A stored row off the curve stops the rows as Calculate TOS does; the curve is still written.
     const std::string rows = Profile(
         "<LandXML><Units><Imperial linearUnit=\"foot\"/></Units><Alignments><Alignment><Profile>"
@@ -197,6 +200,9 @@ TEST_F(ProfileCommandsTest, ListingFlagsBareBreaksAndUnsymmetricalCurves) {
                                      "2+000,100\n2+500,110\n3+000,100\n");
     const Result text = Run([](auto& o, auto& out, auto& err) { return RunProfileListing(o, false, out, err); }, file);
     ASSERT_EQ(text.status, 0);
+    EXPECT_EQ(text.out.substr(0, text.out.find("\n\nPVI 2")),
+              "Profile p: 5 PVIs from 0+000.0 to 3+000.0, 3000.0 m (metres)\n\n"
+              "PVI 1 (line 2)  0+000.0 El. 100.0\n  begins the profile, grade ahead +2.0 %");
     EXPECT_NE(text.out.find("PVI 2 (line 3)  1+000.0 El. 120.0\n  unsymmetrical crest curve: G1 +2.0 %, G2 -2.0 %, "
                             "A 4.0 %, L1 300.0 m, L2 500.0 m, L 800.0 m, K 200.0\n"),
               std::string::npos)
@@ -207,7 +213,12 @@ TEST_F(ProfileCommandsTest, ListingFlagsBareBreaksAndUnsymmetricalCurves) {
         << text.out;
     const Result json = Run([](auto& o, auto& out, auto& err) { return RunProfileListing(o, true, out, err); }, file);
     EXPECT_NE(json.out.find("\"stationText\": \"2+500.0\",\n      \"elevation\": 110.0,\n      \"gradeIn\": 2.0,\n"
-                            "      \"gradeOut\": -2.0,\n      \"gradeBreakWithoutCurve\": true,"),
+                            "      \"gradeOut\": -2.0,\n      \"gradeBreakWithoutCurve\": true,\n      \"curve\": null\n"),
+              std::string::npos)
+        << json.out;
+    EXPECT_NE(json.out.find("\"kind\": \"crest\",\n        \"symmetric\": false,\n        \"g1\": 2.0,\n"
+                            "        \"g2\": -2.0,\n        \"A\": 4.0,\n        \"L\": 800.0,\n        \"L1\": 300.0,\n"
+                            "        \"L2\": 500.0,\n        \"middleOrdinate\": 3.75,\n        \"K\": 200.0,\n"),
               std::string::npos)
         << json.out;
 }

@@ -167,8 +167,8 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
 
 TEST(ProfileFilesTest, CsvProfilesInBothUnitSystems) {
     const ProfileSource feet = Source("p.csv",
-                                      "# stations in feet\nStation (ft),Elevation,K\r\n10+00,100\r\n15+50.5,105,10\r\n"
-                                      "\r\n2000,100\r\n");
+                                      "\xEF\xBB\xBF# stations in feet\nStation (ft),Elevation,K\r\n10+00,100\r\n"
+                                      "15+50.5,105,10\r\n\r\n2000,100\r\n");
     ASSERT_TRUE(feet.profile) << feet.error;
     EXPECT_FALSE(feet.profile->metric());
     EXPECT_EQ(feet.profile->pvis()[1].station, 1550.5);
@@ -206,6 +206,17 @@ TEST(ProfileFilesTest, CsvRefusalsNameTheLineAndColumn) {
         EXPECT_FALSE(s.profile) << c.name;
         EXPECT_EQ(s.error, c.message) << c.name;
     }
+}
+
+TEST(ProfileFilesTest, AFileWithoutItsKindInItsNameIsToldByItsFirstCharacter) {
+    const ProfileSource csv = Source("profiles/ramp", "Station (ft),Elevation\n0+00,100\n5+00,110\n");
+    ASSERT_TRUE(csv.profile) << csv.error;
+    EXPECT_EQ(csv.document.name, "ramp");
+    EXPECT_TRUE(Source("profiles/ramp", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI></ProfAlign>"))
+                    .profile);
+    std::ifstream example(GW_EXAMPLES_DIR "/english-crest.gwf", std::ios::binary);
+    const std::string bytes(std::istreambuf_iterator<char>(example), {});
+    EXPECT_TRUE(Source("curve.txt", bytes).profile);
 }
 
 TEST(ProfileFilesTest, ACurveFileTheProgramRefusesIsRefused) {

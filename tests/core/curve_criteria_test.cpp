@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iterator>
 
 namespace gw {
 namespace {
@@ -26,16 +27,24 @@ const CriterionResult& Find(const CurveCheck& c, Criterion which) {
 
 TEST(CurveCriteriaTest, RatesOfCurvatureOfThePolicy) {
     // AASHTO, A Policy on Geometric Design of Highways and Streets, 7th ed. (2018),
-    // design controls for crest vertical curves: K = S^2 / C rounded up, with S < L.
-    // Stopping sight distance 425 ft at 50 mph gives K 84, 570 ft at 60 mph K 151;
-    // passing sight distance 800 ft gives K 229. Sag curves: K 96 at 50 mph, 136 at 60.
+    // design controls for crest vertical curves: K = S^2 / C rounded up, with S < L,
+    // from 3 at 15 mph to 384 at 80 mph (84 at 50 mph, 151 at 60); passing sight
+    // distance 800 ft gives K 229; sag curves: K 96 at 50 mph, 136 at 60.
+    const double crestK[] = {3, 7, 12, 19, 29, 44, 61, 84, 114, 151, 193, 247, 312, 384};
+    for (size_t i = 0; i < std::size(crestK); ++i) {
+        const double speed = 15 + 5 * static_cast<double>(i);
+        // A = 30 puts even 80 ft of sight within the curve (A S^2 / C >= S).
+        const CriterionResult& r = Find(CheckCurve(Curve(15, -15, 9000), At(speed)), Criterion::CrestStopping);
+        EXPECT_TRUE(r.minimum.withinCurve) << speed;
+        EXPECT_EQ(std::ceil(r.minimum.length / 30), crestK[i]) << speed;
+    }
     struct Case {
         double g1, g2, speed;
         Criterion criterion;
         double K;
     } cases[] = {
-        {4, -4, 50, Criterion::CrestStopping, 84}, {4, -4, 60, Criterion::CrestStopping, 151},
-        {4, -4, 50, Criterion::CrestPassing, 229}, {-4, 4, 50, Criterion::SagHeadlight, 96},
+        {4, -4, 50, Criterion::CrestPassing, 229},
+        {-4, 4, 50, Criterion::SagHeadlight, 96},
         {-4, 4, 60, Criterion::SagHeadlight, 136},
     };
     for (const Case& c : cases) {
@@ -43,6 +52,17 @@ TEST(CurveCriteriaTest, RatesOfCurvatureOfThePolicy) {
         EXPECT_TRUE(r.minimum.withinCurve) << c.speed;
         EXPECT_EQ(std::ceil(r.minimum.length / 8), c.K) << c.speed;
     }
+}
+
+TEST(CurveCriteriaTest, ABareGradeBreakIsACurveOfNoLength) {
+    // 50 mph, crest: 2 S - 2158 / A is below 0 for A = 1.1, 310.5 ft for A = 4.
+    const VerticalCurve small(1000, 100, 0.55, -0.55, 0, 0, true), large(1000, 100, 2, -2, 0, 0, true);
+    const CurveCheck a = CheckCurve(small, At(50)), b = CheckCurve(large, At(50));
+    EXPECT_TRUE(a.longEnough);
+    EXPECT_FALSE(b.longEnough);
+    EXPECT_EQ(b.criteria[*b.governing].minimum.length, 310.5);
+    for (const CriterionResult& r : b.criteria) EXPECT_NE(r.criterion, Criterion::GeneralMinimum);
+    EXPECT_FALSE(b.drainage.flatZone);
 }
 
 TEST(CurveCriteriaTest, EachCriterionOfACrestAndASag) {

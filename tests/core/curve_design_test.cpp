@@ -63,6 +63,7 @@ TEST(CurveDesignTest, ClearanceUnderAStructureBoundsTheLength) {
         {"sag under a bridge", {1000, 100, -2, 2}, 1050, 118, 16.5, ClearanceDesign::Bound::AtMost},
         {"crest already clear", {1000, 100, 2, -2}, 1050, 120, 16.5, ClearanceDesign::Bound::Any},
         {"sag tangent too high", {1000, 100, -2, 2}, 1150, 115, 16.5, ClearanceDesign::Bound::None},
+        {"no change of grade", {1000, 100, 2, 2}, 1050, 120, 16.5, ClearanceDesign::Bound::Any},
     };
     for (const Case& c : cases) {
         const ClearanceDesign d = LengthUnderStructure(c.frame, c.station, c.underside, c.clearance);
