@@ -59,7 +59,8 @@ std::string Aligned(const std::vector<std::array<std::string, 5>>& rows) {
     std::string text;
     for (const auto& r : rows) {
         std::string line = " ";
-        for (size_t c = 0; c < 5; ++c) line += " " + r[c] + std::string(c + 1 < 5 ? width[c] - r[c].size() + 1 : 0, ' ');
+        for (size_t c = 0; c < 5; ++c)
+            line += " " + r[c] + std::string(c + 1 < 5 ? width[c] - r[c].size() + 1 : 0, ' ');
         while (!line.empty() && line.back() == ' ') line.pop_back();
         text += line + "\n";
     }
@@ -118,8 +119,8 @@ int ProfileCheckReport(const ProfileDocument& document, const Profile& profile, 
             out << "  drainage: ";
             if (d.flatZone) {
                 out << "the grade is within 0.30 % from " << StationText((*d.flatZone)[0], metric) << " to "
-                    << StationText((*d.flatZone)[1], metric) << " (" << FormatNumber((*d.flatZone)[1] - (*d.flatZone)[0])
-                    << unit << ")";
+                    << StationText((*d.flatZone)[1], metric) << " ("
+                    << FormatNumber((*d.flatZone)[1] - (*d.flatZone)[0]) << unit << ")";
             } else {
                 out << "the grade is never within 0.30 %";
             }

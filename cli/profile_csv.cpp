@@ -111,7 +111,8 @@ bool CsvReader::Station(const std::string& text, double& value) {
     }
     const double k = StationLength(m_metric ? kMetric : kEnglish);
     if (!(ReadNumber(plus) < k)) {
-        return Fail(At("Station") + ": the plus part of '" + text + "' must be less than " + FormatWholeNumber(k) + ".");
+        return Fail(At("Station") + ": the plus part of '" + text + "' must be less than " + FormatWholeNumber(k) +
+                    ".");
     }
     // A leading sign belongs to the whole station: -1+50 is 150 before zero.
     const double magnitude = std::fabs(ReadNumber(whole)) * k + ReadNumber(plus);

@@ -103,7 +103,8 @@ bool Reader::FindProfAlign(const pugi::xml_node& root, const std::optional<std::
         if (name && *name == n.attribute("name").value()) found = n;
     }
     if (name && !found) {
-        return Fail("The file has no ProfAlign named '" + *name + "'" + (all.empty() ? "." : "; it has " + names + "."));
+        return Fail("The file has no ProfAlign named '" + *name + "'" +
+                    (all.empty() ? "." : "; it has " + names + "."));
     }
     if (!name && all.size() != 1) {
         if (all.empty()) return Fail("The file has no profile: no ProfAlign element.");

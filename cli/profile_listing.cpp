@@ -27,8 +27,9 @@ std::string CurveLines(const VerticalCurve& c, const Profile& p) {
                 FormatNumber(c.length()) + unit;
     }
     if (auto K = c.RateOfCurvature()) text += ", K " + FormatNumber(*K);
-    text += "\n  PVC " + Place(c.pvc(), c.pvcElevation(), metric) + ", PVT " + Place(c.pvt(), c.pvtElevation(), metric) +
-            ", middle ordinate " + FormatNumber(c.MiddleOrdinate()) + unit + "\n";
+    text += "\n  PVC " + Place(c.pvc(), c.pvcElevation(), metric) + ", PVT " +
+            Place(c.pvt(), c.pvtElevation(), metric) + ", middle ordinate " + FormatNumber(c.MiddleOrdinate()) + unit +
+            "\n";
     const std::string point = c.isCrest() ? "high point" : "low point";
     if (auto tp = c.TurningPoint()) {
         text += "  " + point + " " + Place(*tp, c.ElevationAt(*tp), metric) + "\n";

@@ -67,7 +67,9 @@ void Drawing::Scale() {
         const VerticalCurve& c = *v.curve;
         marks.push_back({c.pvc(), c.pvcElevation(), "PVC" + n});
         marks.push_back({c.pvt(), c.pvtElevation(), "PVT" + n});
-        if (auto tp = c.TurningPoint()) marks.push_back({*tp, c.ElevationAt(*tp), (c.isCrest() ? "High point" : "Low point") + n});
+        if (auto tp = c.TurningPoint()) {
+            marks.push_back({*tp, c.ElevationAt(*tp), (c.isCrest() ? "High point" : "Low point") + n});
+        }
     }
     std::stable_sort(marks.begin(), marks.end(), [](const Mark& a, const Mark& b) { return a.station < b.station; });
     for (Mark& m : marks) {
@@ -172,8 +174,9 @@ void Drawing::Marks(SvgWriter& svg) {
         if (offRoad) {
             svg.Circle(x, y, 3.5, R"(fill="#ffffff" stroke="#555555" stroke-width="1.2")");
         } else if (turning) {
-            svg.Path("M" + Point(x, y - 5) + " L" + Point(x + 5, y) + " L" + Point(x, y + 5) + " L" + Point(x - 5, y) + " Z",
-                     R"(fill="#b3261e" stroke="#ffffff" stroke-width="1")");
+            svg.Path(
+                "M" + Point(x, y - 5) + " L" + Point(x + 5, y) + " L" + Point(x, y + 5) + " L" + Point(x - 5, y) + " Z",
+                R"(fill="#b3261e" stroke="#ffffff" stroke-width="1")");
         } else {
             svg.Circle(x, y, 4, std::string("fill=\"#ffffff\" stroke=\"") + kInk + "\" stroke-width=\"1.8\"");
         }
@@ -188,9 +191,10 @@ std::string Drawing::Draw(std::string_view title) {
     SvgWriter svg(m_width, kBottom + 60);
     svg.Rect(0, 0, m_width, kBottom + 60, R"(fill="#ffffff")");
     svg.Text(kLeft, 30, title, R"(font-size="17" font-weight="bold" fill="#111111")");
-    const std::string facts = std::to_string(m_p.pvis().size()) + " PVIs from " + StationText(m_p.begin(), m_p.metric()) +
-                              " to " + StationText(m_p.end(), m_p.metric()) + (m_p.metric() ? ", metres" : ", feet") +
-                              "  \u00b7  vertical exaggeration " + ShortNumber(m_exaggeration) + ":1";
+    const std::string facts = std::to_string(m_p.pvis().size()) + " PVIs from " +
+                              StationText(m_p.begin(), m_p.metric()) + " to " + StationText(m_p.end(), m_p.metric()) +
+                              (m_p.metric() ? ", metres" : ", feet") + "  \u00b7  vertical exaggeration " +
+                              ShortNumber(m_exaggeration) + ":1";
     svg.Text(kLeft, 52, facts, R"(font-size="13" fill="#333333")");
     Axes(svg);
     Lines(svg);

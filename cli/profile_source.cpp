@@ -30,7 +30,8 @@ Kind KindOf(const std::string& path, std::string_view bytes) {
     if (extension == "xml") return Kind::LandXml;
     if (extension == "csv") return Kind::Csv;
     if (extension == "gwf") return Kind::CurveFile;
-    const auto first = std::find_if(bytes.begin(), bytes.end(), [](char c) { return !std::isspace(static_cast<unsigned char>(c)); });
+    const auto first =
+        std::find_if(bytes.begin(), bytes.end(), [](char c) { return !std::isspace(static_cast<unsigned char>(c)); });
     if (first != bytes.end() && *first == '<') return Kind::LandXml;
     if (first != bytes.end() && *first == '"') return Kind::CurveFile;
     return Kind::Csv;

@@ -129,7 +129,8 @@ struct ProfileBuilder {
             double lengthIn = 0, lengthOut = 0;
             bool symmetric = true;
             const bool interior = i + 1 < p.size();
-            if (interior && !Lengths(i, std::fabs(out.m_grades[i] - out.m_grades[i - 1]), lengthIn, lengthOut, symmetric)) {
+            if (interior &&
+                !Lengths(i, std::fabs(out.m_grades[i] - out.m_grades[i - 1]), lengthIn, lengthOut, symmetric)) {
                 return false;
             }
             const double from = p[i].station - lengthIn;
@@ -157,15 +158,7 @@ struct ProfileBuilder {
     }
 
     void AddPiece(double begin, double elevation, double length, double g1, double g2, int pvi) {
-        ProfilePiece piece;
-        piece.geometry.pvc = begin;
-        piece.geometry.pvcElevation = elevation;
-        piece.geometry.length = length;
-        piece.geometry.g1 = g1;
-        piece.geometry.g2 = g2;
-        piece.geometry.metric = in.metric;
-        piece.pvi = pvi;
-        out.m_pieces.push_back(piece);
+        out.m_pieces.push_back({CurveGeometry{begin, elevation, length, g1, g2, in.metric}, pvi});
     }
 
     void CutPieces() {

@@ -69,8 +69,8 @@ ProfileRowsOutcome ProfileRows(const Profile& profile, double interval) {
     const double count = last - first + 1;
     if (!(count <= kMostProfileRows)) {
         out.error = "An interval of " + FormatNumber(interval) + " gives more than " +
-                    FormatWholeNumber(kMostProfileRows) + " rows over " + FormatNumber(profile.end() - profile.begin()) +
-                    "; choose a longer interval.";
+                    FormatWholeNumber(kMostProfileRows) + " rows over " +
+                    FormatNumber(profile.end() - profile.begin()) + "; choose a longer interval.";
         return out;
     }
     const std::vector<ProfilePointName> named = NamedPoints(profile);

@@ -4,19 +4,6 @@
 #include <cmath>
 
 namespace gw {
-namespace {
-
-CurveGeometry Parabola(double pvc, double elevation, double length, double g1, double g2) {
-    CurveGeometry c;
-    c.pvc = pvc;
-    c.pvcElevation = elevation;
-    c.length = length;
-    c.g1 = g1;
-    c.g2 = g2;
-    return c;
-}
-
-}  // namespace
 
 VerticalCurve::VerticalCurve(double pviStation, double pviElevation, double g1, double g2, double lengthIn,
                              double lengthOut, bool symmetric)
@@ -29,14 +16,14 @@ VerticalCurve::VerticalCurve(double pviStation, double pviElevation, double g1, 
       m_symmetric(symmetric) {
     const double pvcElevation = pviElevation - g1 / 100 * lengthIn;
     if (symmetric) {
-        m_parts[0] = Parabola(pvc(), pvcElevation, length(), g1, g2);
+        m_parts[0] = CurveGeometry{pvc(), pvcElevation, length(), g1, g2};
         return;
     }
     // The two parabolas share the tangent at the PVI's station; its grade weighs each
     // grade by the length on its side. Each half then has its own rate of change.
     const double common = (g1 * lengthIn + g2 * lengthOut) / (lengthIn + lengthOut);
-    m_parts[0] = Parabola(pvc(), pvcElevation, lengthIn, g1, common);
-    m_parts[1] = Parabola(pviStation, m_parts[0].ElevationAt(lengthIn), lengthOut, common, g2);
+    m_parts[0] = CurveGeometry{pvc(), pvcElevation, lengthIn, g1, common};
+    m_parts[1] = CurveGeometry{pviStation, m_parts[0].ElevationAt(lengthIn), lengthOut, common, g2};
 }
 
 double VerticalCurve::pvtElevation() const {

@@ -212,14 +212,16 @@ TEST_F(ProfileCommandsTest, ListingFlagsBareBreaksAndUnsymmetricalCurves) {
               std::string::npos)
         << text.out;
     const Result json = Run([](auto& o, auto& out, auto& err) { return RunProfileListing(o, true, out, err); }, file);
-    EXPECT_NE(json.out.find("\"stationText\": \"2+500.0\",\n      \"elevation\": 110.0,\n      \"gradeIn\": 2.0,\n"
-                            "      \"gradeOut\": -2.0,\n      \"gradeBreakWithoutCurve\": true,\n      \"curve\": null\n"),
-              std::string::npos)
+    EXPECT_NE(
+        json.out.find("\"stationText\": \"2+500.0\",\n      \"elevation\": 110.0,\n      \"gradeIn\": 2.0,\n"
+                      "      \"gradeOut\": -2.0,\n      \"gradeBreakWithoutCurve\": true,\n      \"curve\": null\n"),
+        std::string::npos)
         << json.out;
-    EXPECT_NE(json.out.find("\"kind\": \"crest\",\n        \"symmetric\": false,\n        \"g1\": 2.0,\n"
-                            "        \"g2\": -2.0,\n        \"A\": 4.0,\n        \"L\": 800.0,\n        \"L1\": 300.0,\n"
-                            "        \"L2\": 500.0,\n        \"middleOrdinate\": 3.75,\n        \"K\": 200.0,\n"),
-              std::string::npos)
+    EXPECT_NE(
+        json.out.find("\"kind\": \"crest\",\n        \"symmetric\": false,\n        \"g1\": 2.0,\n"
+                      "        \"g2\": -2.0,\n        \"A\": 4.0,\n        \"L\": 800.0,\n        \"L1\": 300.0,\n"
+                      "        \"L2\": 500.0,\n        \"middleOrdinate\": 3.75,\n        \"K\": 200.0,\n"),
+        std::string::npos)
         << json.out;
 }
 

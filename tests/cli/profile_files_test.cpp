@@ -134,8 +134,9 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
     } cases[] = {
         {"malformed", "<LandXML>\n<Units>\n</LandXML>\n", "Line 3: Start-end tags mismatch."},
         {"circular curve",
-         LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<CircCurve length=\"100\" radius=\"5000\">500 2</CircCurve>"
-                        "<PVI>1000 1</PVI></ProfAlign>"),
+         LandXml(kFeet,
+                 "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<CircCurve length=\"100\" radius=\"5000\">500 2</CircCurve>"
+                 "<PVI>1000 1</PVI></ProfAlign>"),
          "CircCurve on line 7: circular vertical curves are not supported; Gradewise works with parabolic curves "
          "(ParaCurve, UnsymParaCurve)."},
         {"no units", "<LandXML><Alignments/></LandXML>",
@@ -144,11 +145,9 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
          "Imperial on line 3: a linear unit of 'inch' is not one Gradewise works in (foot, USSurveyFoot or meter)."},
         {"mixed units", LandXml("<Imperial linearUnit=\"foot\" elevationUnit=\"meter\"/>", ""),
          "Imperial on line 3: elevations in 'meter' with stations in 'foot'; both must be feet or both metres."},
-        {"not station and elevation",
-         LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 1 2</PVI></ProfAlign>"),
+        {"not station and elevation", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 1 2</PVI></ProfAlign>"),
          "PVI on line 7: expected 'station elevation', found '0 1 2'."},
-        {"no length",
-         LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<ParaCurve>5 1</ParaCurve></ProfAlign>"),
+        {"no length", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<ParaCurve>5 1</ParaCurve></ProfAlign>"),
          "ParaCurve on line 7 has no length."},
         {"two profiles", LandXml(kFeet, two),
          "The file has 2 profiles (ProfAlign 'one', 'two'); choose one by its name."},
@@ -192,7 +191,8 @@ TEST(ProfileFilesTest, CsvRefusalsNameTheLineAndColumn) {
         {"letters", header + "10+00,100\n12+00,1O4\n", "Line 3, Elevation: '1O4' is not a number."},
         {"no units", "Station,Elevation\n", "Line 1, Station: say the units as Station (ft) or Station (m)."},
         {"unknown column", "Station (ft),Elevation,Grade\n",
-         "Line 1, column 3: 'Grade' is not a column of a profile (Station, Elevation, Length, K, Length in, Length out)."},
+         "Line 1, column 3: 'Grade' is not a column of a profile (Station, Elevation, Length, K, Length in, Length "
+         "out)."},
         {"two ways", header + "10+00,100\n12+00,104,200,50\n",
          "Line 3, the row gives its curve more than one way; give a Length, a K, or a Length in with a Length out."},
         {"half unsymmetrical", header + "10+00,100\n12+00,104,,,200\n",
@@ -212,8 +212,9 @@ TEST(ProfileFilesTest, AFileWithoutItsKindInItsNameIsToldByItsFirstCharacter) {
     const ProfileSource csv = Source("profiles/ramp", "Station (ft),Elevation\n0+00,100\n5+00,110\n");
     ASSERT_TRUE(csv.profile) << csv.error;
     EXPECT_EQ(csv.document.name, "ramp");
-    EXPECT_TRUE(Source("profiles/ramp", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI></ProfAlign>"))
-                    .profile);
+    EXPECT_TRUE(
+        Source("profiles/ramp", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI></ProfAlign>"))
+            .profile);
     std::ifstream example(GW_EXAMPLES_DIR "/english-crest.gwf", std::ios::binary);
     const std::string bytes(std::istreambuf_iterator<char>(example), {});
     EXPECT_TRUE(Source("curve.txt", bytes).profile);

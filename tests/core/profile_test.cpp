@@ -74,7 +74,8 @@ TEST(ProfileTest, RefusalsNameThePvisConcerned) {
         ProfileInput input;
         const char* message;
     } cases[] = {
-        {"one point", Input({{1000, 100}}), "A profile needs a beginning and an end point; this one has 1 PVI, PVI 1 (line 2)."},
+        {"one point", Input({{1000, 100}}),
+         "A profile needs a beginning and an end point; this one has 1 PVI, PVI 1 (line 2)."},
         {"no length", Input({{1000, 100}, {1000, 101}}),
          "The profile has no length: PVI 1 (line 2) and PVI 2 (line 3) are both at 10+00.0."},
         {"doubles back", Input({{1000, 100}, {900, 101}, {1100, 102}, {1500, 100}}),
@@ -84,7 +85,8 @@ TEST(ProfileTest, RefusalsNameThePvisConcerned) {
         {"negative length", Input({{0, 100}, {1000, 110, -100}, {2000, 100}}),
          "The length of the curve at PVI 2 (line 3) must be 0 or more, not -100.0."},
         {"overlap", Input({{0, 100}, {1000, 120, 400}, {1300, 112, 400}, {2000, 116}}),
-         "The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the first ends at 12+00.0, after the second begins at 11+00.0."},
+         "The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the first ends at 12+00.0, after the second begins "
+         "at 11+00.0."},
         {"past the next PVI", Input({{0, 100}, {1000, 120, 400}, {1100, 118}, {2000, 116}}),
          "The curve at PVI 2 (line 3) ends at 12+00.0, past PVI 3 (line 4) at 11+00.0."},
         {"before the beginning", Input({{900, 100}, {1000, 120, 400}, {2000, 116}}),
