@@ -2,6 +2,7 @@
 
 #include <pugixml.hpp>
 
+#include <algorithm>
 #include <cstring>
 #include <vector>
 
@@ -27,12 +28,15 @@ std::string_view LocalName(const pugi::xml_node& node) {
 
 class Reader {
 public:
-    explicit Reader(std::string_view bytes) : m_bytes(bytes) {}
+    explicit Reader(std::string_view bytes) : m_bytes(bytes) {
+        for (size_t i = 0; i < bytes.size(); ++i) {
+            if (bytes[i] == '\n') m_lineEnds.push_back(static_cast<ptrdiff_t>(i));
+        }
+    }
 
+    // Every PVI is named by its line, so this is a search, not a count.
     int Line(ptrdiff_t offset) const {
-        int line = 1;
-        for (ptrdiff_t i = 0; i < offset && i < static_cast<ptrdiff_t>(m_bytes.size()); ++i) line += m_bytes[i] == '\n';
-        return line;
+        return 1 + static_cast<int>(std::lower_bound(m_lineEnds.begin(), m_lineEnds.end(), offset) - m_lineEnds.begin());
     }
     std::string Where(const pugi::xml_node& node) const {
         return std::string(LocalName(node)) + " on line " + std::to_string(Line(node.offset_debug()));
@@ -52,6 +56,7 @@ private:
     void Extras(const pugi::xml_node& feature, ProfileDocument& doc);
 
     std::string_view m_bytes;
+    std::vector<ptrdiff_t> m_lineEnds;  // offsets of the line feeds
     std::string m_error;
 };
 
