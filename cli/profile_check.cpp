@@ -31,21 +31,21 @@ std::string Formula(const CriterionResult& r, const CheckSettings& s) {
     switch (r.criterion) {
         case Criterion::CrestStopping:
         case Criterion::CrestPassing: {
-            const std::string C = ShortNumber(r.divisor);
+            const std::string C = ShortNumber(r.constant);
             return (within ? "L = A S^2 / " + C : "L = 2 S - " + C + " / A") + form;
         }
         case Criterion::SagHeadlight: {
-            const std::string reach = "(" + ShortNumber(r.divisor - 3.5 * r.sightDistance) + " + 3.5 S)";
+            const std::string reach = "(" + ShortNumber(r.constant) + " + 3.5 S)";
             return (within ? "L = A S^2 / " + reach : "L = 2 S - " + reach + " / A") + form;
         }
         case Criterion::StructureSight: {
-            const std::string D = ShortNumber(r.divisor);
+            const std::string D = ShortNumber(r.constant);
             const double eye = s.heights.truckEye ? *s.heights.truckEye : TruckEyeHeight(s.metric);
             const double light = s.heights.taillight ? *s.heights.taillight : TaillightHeight(s.metric);
             return (within ? "L = A S^2 / " + D : "L = 2 S - " + D + " / A") + form + ", 800 (" +
                    ShortNumber(*s.clearance) + " - (" + ShortNumber(eye) + " + " + ShortNumber(light) + ") / 2) = " + D;
         }
-        case Criterion::SagComfort: return "L = A V^2 / " + ShortNumber(r.divisor);
+        case Criterion::SagComfort: return "L = A V^2 / " + ShortNumber(r.constant);
         case Criterion::GeneralMinimum: return s.metric ? "L = 0.6 V" : "L = 3 V";
     }
     return "";

@@ -18,11 +18,11 @@ std::vector<CriterionResult> Criteria(const VerticalCurve& curve, const CheckSet
     const double A = curve.gradeChange();
     const double S = row.sightDistance;
     std::vector<CriterionResult> out;
-    const auto add = [&](Criterion c, double sight, double divisor, MinimumLength m, bool branches, bool counted) {
+    const auto add = [&](Criterion c, double sight, double constant, MinimumLength m, bool branches, bool counted) {
         CriterionResult r;
         r.criterion = c;
         r.sightDistance = sight;
-        r.divisor = divisor;
+        r.constant = constant;
         r.minimum = m;
         r.branches = branches;
         r.counted = counted;
@@ -44,15 +44,14 @@ std::vector<CriterionResult> Criteria(const VerticalCurve& curve, const CheckSet
                 true, s.passing);
         }
     } else {
-        const double H = h.headlight ? 200 * *h.headlight : HeadlightConstant(metric);
-        add(Criterion::SagHeadlight, S, H + 3.5 * S, HeadlightMinimumLength(A, S, H), true, true);
-        const double V = row.speed;
-        const double comfort = metric ? 395 : 46.5;
-        add(Criterion::SagComfort, 0, comfort, {ComfortMinimumLength(A, V, metric), true}, false, true);
+        const double H = h.headlight ? HeadlightConstantForHeight(*h.headlight) : HeadlightConstant(metric);
+        add(Criterion::SagHeadlight, S, H, HeadlightMinimumLength(A, S, H), true, true);
+        add(Criterion::SagComfort, 0, ComfortConstant(metric), {ComfortMinimumLength(A, row.speed, metric), true},
+            false, true);
         if (s.clearance) {
             const double eye = Or(h.truckEye, TruckEyeHeight(metric));
             const double light = Or(h.taillight, TaillightHeight(metric));
-            add(Criterion::StructureSight, S, 800 * (*s.clearance - (eye + light) / 2),
+            add(Criterion::StructureSight, S, StructureConstant(*s.clearance, eye, light),
                 StructureMinimumLength(A, S, *s.clearance, eye, light), true, true);
         }
     }

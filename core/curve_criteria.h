@@ -41,9 +41,10 @@ enum class Criterion { CrestStopping, CrestPassing, SagHeadlight, SagComfort, Ge
 struct CriterionResult {
     Criterion criterion = Criterion::GeneralMinimum;
     double sightDistance = 0;  // S, for the sight-distance criteria
-    // The divisor of the S < L form (C, H + 3.5 S, 800 (C - (h1 + h2) / 2)), or of
-    // A V^2 for comfort; 0 for the general minimum.
-    double divisor = 0;
+    // The criterion's constant: C of the crest forms, H of the headlight forms,
+    // D = 800 (C - (h1 + h2) / 2) under a structure, the divisor of A V^2 for
+    // comfort; 0 for the general minimum.
+    double constant = 0;
     MinimumLength minimum;
     bool branches = false;  // a sight-distance criterion: minimum.withinCurve names the form
     bool counted = true;    // decides the verdict (passing sight distance only when asked)

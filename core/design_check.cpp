@@ -89,16 +89,21 @@ double StoppingObjectHeight(bool metric) { return metric ? 0.60 : 2.0; }
 double OncomingVehicleHeight(bool metric) { return metric ? 1.08 : 3.5; }
 double HeadlightHeight(bool metric) { return metric ? 0.60 : 2.0; }
 double HeadlightConstant(bool metric) { return metric ? 120 : 400; }
+double HeadlightConstantForHeight(double headlight) { return 200 * headlight; }
 double TruckEyeHeight(bool metric) { return metric ? 2.4 : 8; }
 double TaillightHeight(bool metric) { return metric ? 0.6 : 2; }
 
 MinimumLength StructureMinimumLength(double A, double S, double clearance, double eye, double object) {
-    return Either(A, S, 800 * (clearance - (eye + object) / 2));
+    return Either(A, S, StructureConstant(clearance, eye, object));
 }
 
+double StructureConstant(double clearance, double eye, double object) { return 800 * (clearance - (eye + object) / 2); }
+
 double ComfortMinimumLength(double A, double speed, bool metric) {
-    return A * speed * speed / (metric ? 395 : 46.5);
+    return A * speed * speed / ComfortConstant(metric);
 }
+
+double ComfortConstant(bool metric) { return metric ? 395 : 46.5; }
 
 double GeneralMinimumLength(double speed, bool metric) { return (metric ? 0.6 : 3) * speed; }
 

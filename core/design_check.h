@@ -45,6 +45,7 @@ double OncomingVehicleHeight(bool metric);
 double HeadlightHeight(bool metric);
 // H of the sag formulas: 200 times the headlight height (2 ft / 0.6 m).
 double HeadlightConstant(bool metric);
+double HeadlightConstantForHeight(double headlight);
 
 struct MinimumLength {
     double length = 0;      // never negative
@@ -63,12 +64,15 @@ MinimumLength HeadlightMinimumLength(double A, double S, double H);
 // truck driver's eye h1 and a taillight h2: with D = 800 (C - (h1 + h2) / 2),
 // S < L: L = A S^2 / D; S > L: L = 2 S - D / A. C must exceed (h1 + h2) / 2.
 MinimumLength StructureMinimumLength(double A, double S, double clearance, double eye, double object);
+// D = 800 (C - (h1 + h2) / 2).
+double StructureConstant(double clearance, double eye, double object);
 // Truck driver's eye and taillight heights under a structure: 8 ft / 2.4 m, 2 ft / 0.6 m.
 double TruckEyeHeight(bool metric);
 double TaillightHeight(bool metric);
 
 // Comfort on a sag: L = A V^2 / 46.5 (V in mph, L in ft) or A V^2 / 395 (km/h, m).
 double ComfortMinimumLength(double A, double speed, bool metric);
+double ComfortConstant(bool metric);
 // The shortest curve worth building: 3 V ft (mph) or 0.6 V m (km/h).
 double GeneralMinimumLength(double speed, bool metric);
 

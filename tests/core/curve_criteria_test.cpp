@@ -111,12 +111,12 @@ TEST(CurveCriteriaTest, HeightsGivenReplaceTheConstants) {
     s.heights.eye = 3.5;
     s.heights.object = 2.0;
     // The published 2158 is 200 (sqrt 3.5 + sqrt 2)^2 rounded.
-    EXPECT_NEAR(Find(CheckCurve(Curve(4, -4, 3000), s), Criterion::CrestStopping).divisor, 2158, 0.5);
+    EXPECT_NEAR(Find(CheckCurve(Curve(4, -4, 3000), s), Criterion::CrestStopping).constant, 2158, 0.5);
     s.heights.object = 0.5;
-    EXPECT_NEAR(Find(CheckCurve(Curve(4, -4, 3000), s), Criterion::CrestStopping).divisor,
+    EXPECT_NEAR(Find(CheckCurve(Curve(4, -4, 3000), s), Criterion::CrestStopping).constant,
                 200 * std::pow(std::sqrt(3.5) + std::sqrt(0.5), 2), 1e-9);
     s.heights.headlight = 2.5;
-    EXPECT_DOUBLE_EQ(Find(CheckCurve(Curve(-4, 4, 3000), s), Criterion::SagHeadlight).divisor, 500 + 3.5 * 425);
+    EXPECT_DOUBLE_EQ(Find(CheckCurve(Curve(-4, 4, 3000), s), Criterion::SagHeadlight).constant, 500);
 }
 
 TEST(CurveCriteriaTest, VerdictGoverningCriterionAndFastestSpeed) {
