@@ -18,7 +18,8 @@ CheckSettings At(double speed, bool metric = false) {
     return s;
 }
 
-const CriterionResult& Find(const CurveCheck& c, Criterion which) {
+// A copy: the checks it is taken from are temporaries.
+CriterionResult Find(const CurveCheck& c, Criterion which) {
     for (const CriterionResult& r : c.criteria) {
         if (r.criterion == which) return r;
     }
@@ -34,7 +35,7 @@ TEST(CurveCriteriaTest, RatesOfCurvatureOfThePolicy) {
     for (size_t i = 0; i < std::size(crestK); ++i) {
         const double speed = 15 + 5 * static_cast<double>(i);
         // A = 30 puts even 80 ft of sight within the curve (A S^2 / C >= S).
-        const CriterionResult& r = Find(CheckCurve(Curve(15, -15, 9000), At(speed)), Criterion::CrestStopping);
+        const CriterionResult r = Find(CheckCurve(Curve(15, -15, 9000), At(speed)), Criterion::CrestStopping);
         EXPECT_TRUE(r.minimum.withinCurve) << speed;
         EXPECT_EQ(std::ceil(r.minimum.length / 30), crestK[i]) << speed;
     }
@@ -48,7 +49,7 @@ TEST(CurveCriteriaTest, RatesOfCurvatureOfThePolicy) {
         {-4, 4, 60, Criterion::SagHeadlight, 136},
     };
     for (const Case& c : cases) {
-        const CriterionResult& r = Find(CheckCurve(Curve(c.g1, c.g2, 3000), At(c.speed)), c.criterion);
+        const CriterionResult r = Find(CheckCurve(Curve(c.g1, c.g2, 3000), At(c.speed)), c.criterion);
         EXPECT_TRUE(r.minimum.withinCurve) << c.speed;
         EXPECT_EQ(std::ceil(r.minimum.length / 8), c.K) << c.speed;
     }
@@ -83,7 +84,7 @@ TEST(CurveCriteriaTest, EachCriterionOfACrestAndASag) {
         {"general minimum, metric", Curve(3, -3, 400), At(80, true), Criterion::GeneralMinimum, 48, true},
     };
     for (const Case& c : cases) {
-        const CriterionResult& r = Find(CheckCurve(c.curve, c.settings), c.criterion);
+        const CriterionResult r = Find(CheckCurve(c.curve, c.settings), c.criterion);
         EXPECT_NEAR(r.minimum.length, std::max(0.0, c.minimum), 1e-9) << c.name;
         if (r.branches) {
             EXPECT_EQ(r.minimum.withinCurve, c.withinCurve) << c.name;
@@ -101,7 +102,7 @@ TEST(CurveCriteriaTest, StructureOverASagUsesTruckEyeTaillightAndClearance) {
     // A S^2 / D = 122.2 < S: 370 - 280 = 90 m.
     CheckSettings m = At(100, true);
     m.clearance = 5.0;
-    const CriterionResult& r = Find(CheckCurve(Curve(-5, 5, 400), m), Criterion::StructureSight);
+    const CriterionResult r = Find(CheckCurve(Curve(-5, 5, 400), m), Criterion::StructureSight);
     EXPECT_NEAR(r.minimum.length, 90, 1e-9);
     EXPECT_FALSE(r.minimum.withinCurve);
 }
