@@ -151,15 +151,15 @@ bool CsvReader::Row(const std::vector<std::string>& cells, PviInput& pvi) {
     if ((lengthIn != std::nullopt) != (lengthOut != std::nullopt)) {
         return Fail(At(lengthIn ? "Length out" : "Length in") + ": an unsymmetrical curve needs both lengths.");
     }
-    CurveSpec& curve = pvi.curve;
+    CurveInput& curve = pvi.curve;
     if (length && *length != 0) {
-        curve.kind = CurveSpec::Kind::Length;
+        curve.kind = CurveInput::Kind::Length;
         curve.length = *length;
     } else if (k && *k != 0) {
-        curve.kind = CurveSpec::Kind::RateOfCurvature;
+        curve.kind = CurveInput::Kind::RateOfCurvature;
         curve.k = *k;
     } else if (lengthIn && (*lengthIn != 0 || *lengthOut != 0)) {
-        curve.kind = CurveSpec::Kind::Unsymmetrical;
+        curve.kind = CurveInput::Kind::Unsymmetrical;
         curve.lengthIn = *lengthIn;
         curve.lengthOut = *lengthOut;
     }

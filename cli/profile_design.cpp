@@ -35,8 +35,8 @@ void Roots(const ControlPointDesign& d, const std::string& unit, bool metric, do
 // Whether the profile takes a curve of this length at the PVI: 0, or 1 with the refusal.
 int Fits(const ProfileDocument& document, size_t index, double length, std::ostream& out) {
     ProfileInput input = document.input;
-    input.pvis[index].curve = CurveSpec{};
-    input.pvis[index].curve.kind = CurveSpec::Kind::Length;
+    input.pvis[index].curve = CurveInput{};
+    input.pvis[index].curve.kind = CurveInput::Kind::Length;
     input.pvis[index].curve.length = length;
     const ProfileOutcome built = BuildProfile(input);
     if (!built.profile) {

@@ -208,15 +208,15 @@ LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
     for (pugi::xml_node n : profAlign.children()) {
         const std::string_view kind = LocalName(n);
         PviInput pvi;
-        CurveSpec& curve = pvi.curve;
+        CurveInput& curve = pvi.curve;
         bool ok = true;
         if (kind == "PVI") {
             ok = Point(n, pvi);
         } else if (kind == "ParaCurve") {
-            curve.kind = CurveSpec::Kind::Length;
+            curve.kind = CurveInput::Kind::Length;
             ok = Number(n, "length", curve.length) && Point(n, pvi);
         } else if (kind == "UnsymParaCurve") {
-            curve.kind = CurveSpec::Kind::Unsymmetrical;
+            curve.kind = CurveInput::Kind::Unsymmetrical;
             ok = Number(n, "lengthIn", curve.lengthIn) && Number(n, "lengthOut", curve.lengthOut) && Point(n, pvi);
         } else if (kind == "CircCurve") {
             out.error = Where(n) + ": circular vertical curves are not supported; Gradewise works with parabolic "
@@ -231,7 +231,7 @@ LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
             return out;
         }
         // A curve of no length is a bare grade break.
-        if (curve.kind == CurveSpec::Kind::Length && curve.length == 0) curve.kind = CurveSpec::Kind::None;
+        if (curve.kind == CurveInput::Kind::Length && curve.length == 0) curve.kind = CurveInput::Kind::None;
         doc.input.pvis.push_back(pvi);
     }
     out.document = std::move(doc);

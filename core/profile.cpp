@@ -71,10 +71,10 @@ struct ProfileBuilder {
                             At(p[i].station) + ": stations must increase along the profile.");
             }
         }
-        if (p.front().curve.kind != CurveSpec::Kind::None) {
+        if (p.front().curve.kind != CurveInput::Kind::None) {
             return Fail(Name(0) + " begins the profile and cannot carry a vertical curve.");
         }
-        if (p.back().curve.kind != CurveSpec::Kind::None) {
+        if (p.back().curve.kind != CurveInput::Kind::None) {
             return Fail(Name(p.size() - 1) + " ends the profile and cannot carry a vertical curve.");
         }
         return true;
@@ -82,18 +82,18 @@ struct ProfileBuilder {
 
     // L1 and L2 of the curve at PVI i, both 0 for none.
     bool Lengths(size_t i, double A, double& lengthIn, double& lengthOut, bool& symmetric) {
-        const CurveSpec& c = in.pvis[i].curve;
-        symmetric = c.kind != CurveSpec::Kind::Unsymmetrical;
+        const CurveInput& c = in.pvis[i].curve;
+        symmetric = c.kind != CurveInput::Kind::Unsymmetrical;
         double L = 0;
         switch (c.kind) {
-            case CurveSpec::Kind::None: break;
-            case CurveSpec::Kind::Length: L = c.length; break;
-            case CurveSpec::Kind::RateOfCurvature:
+            case CurveInput::Kind::None: break;
+            case CurveInput::Kind::Length: L = c.length; break;
+            case CurveInput::Kind::RateOfCurvature:
                 if (!(c.k >= 0)) return Fail("The K of the curve at " + Name(i) + " must be 0 or more, not " +
                                             FormatNumber(c.k) + ".");
                 L = c.k * A;
                 break;
-            case CurveSpec::Kind::Unsymmetrical:
+            case CurveInput::Kind::Unsymmetrical:
                 lengthIn = c.lengthIn;
                 lengthOut = c.lengthOut;
                 if (!(lengthIn >= 0 && lengthOut >= 0) || ((lengthIn == 0) != (lengthOut == 0))) {

@@ -13,7 +13,7 @@
 namespace gw {
 
 // How the curve at a PVI is given.
-struct CurveSpec {
+struct CurveInput {
     enum class Kind { None, Length, RateOfCurvature, Unsymmetrical };
     Kind kind = Kind::None;
     double length = 0;                   // Length: L
@@ -24,7 +24,7 @@ struct CurveSpec {
 struct PviInput {
     double station = 0;  // ft or m
     double elevation = 0;
-    CurveSpec curve;
+    CurveInput curve;
     std::string source;  // where it was read, for messages: "line 4"
 };
 

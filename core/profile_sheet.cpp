@@ -15,7 +15,7 @@ ProfileDocument ProfileFromSheet(const CurveSheet& solved, std::string name) {
     begin.source = "the curve's PVC";
     pvi.station = c.pvi();
     pvi.elevation = c.pviElevation();
-    pvi.curve.kind = CurveSpec::Kind::Length;
+    pvi.curve.kind = CurveInput::Kind::Length;
     pvi.curve.length = c.length;
     pvi.source = "the curve's PVI";
     end.station = c.pvt();

@@ -23,11 +23,11 @@ inline ProfileInput Input(std::initializer_list<Pvi> pvis, bool metric = false) 
         v.elevation = p.elevation;
         v.source = "line " + std::to_string(++line);
         if (p.lengthOut > 0) {
-            v.curve.kind = CurveSpec::Kind::Unsymmetrical;
+            v.curve.kind = CurveInput::Kind::Unsymmetrical;
             v.curve.lengthIn = p.length;
             v.curve.lengthOut = p.lengthOut;
         } else if (p.length != 0) {
-            v.curve.kind = CurveSpec::Kind::Length;
+            v.curve.kind = CurveInput::Kind::Length;
             v.curve.length = p.length;
         }
         in.pvis.push_back(v);

@@ -51,7 +51,7 @@ TEST(ProfileTest, UnsymmetricalCurveMatchesThePublishedTableAndEqualHalvesAreSym
 
 TEST(ProfileTest, CurveByKTakesLengthKTimesA) {
     ProfileInput in = Input({{0, 100}, {1000, 120}, {2000, 100}});  // +2 % to -2 %
-    in.pvis[1].curve.kind = CurveSpec::Kind::RateOfCurvature;
+    in.pvis[1].curve.kind = CurveInput::Kind::RateOfCurvature;
     in.pvis[1].curve.k = 151;
     const ProfileOutcome o = BuildProfile(in);
     ASSERT_TRUE(o.profile) << o.error;
