@@ -313,6 +313,33 @@ TEST_F(CliTest, PlotLabelsTheCurveAndDrawsTheRows) {
     EXPECT_EQ(rows, 5u + 1);
 }
 
+// Curves that pass the number checks but are beyond computing or drawing: once these
+// looped for ever or printed a made-up elevation with exit 0. Now each ends at once
+// with its reason on stderr, exit 1 and no number on stdout.
+TEST_F(CliTest, CurvesBeyondComputingEndAtOnceWithAReason) {
+    struct Case {
+        const char* name;
+        std::string file;
+        int tableStatus;
+    } cases[] = {
+        // Its two rows (PVC and PVT, 1e-12 apart) are exact to the digits shown.
+        {"LengthOf1e-12", Pvi("English", "12", "0", "104", "2", "-2", "1e-12"), kDone},
+        {"PviStationOf1e17", Pvi("English", "1000000000000000", "0", "104", "2", "-2", "400"), kRefused},
+        {"PlusPartOf1e22", Pvi("English", "12", "1e22", "104", "2", "-2", "400"), kRefused},
+        {"LengthOf1e-310", Pvi("English", "12", "0", "104", "2", "-2", "1e-310"), kRefused},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Result plot = RunCli({"plot", c.file});
+        EXPECT_EQ(plot.status, kRefused);
+        EXPECT_EQ(plot.out, "");
+        EXPECT_EQ(plot.err.rfind("gradewise-cli: ", 0), 0u) << plot.err;
+        const Result table = RunCli({"table", c.file, "--every", "0+50"});
+        EXPECT_EQ(table.status, c.tableStatus) << table.err;
+        EXPECT_EQ(table.out.empty(), c.tableStatus != kDone);
+    }
+}
+
 TEST_F(CliTest, ARefusedCurveExitsOne) {
     const Result zero = RunCli({"plot", Pvi("English", "12", "0", "104", "2", "-2", "0")});
     EXPECT_EQ(zero.status, kRefused);
