@@ -3,6 +3,7 @@
 #include "cli/cli.h"
 #include "core/curve_file.h"
 #include "files/curve_file_io.h"
+#include "files/replace_file.h"
 
 namespace gw::cli {
 
@@ -51,7 +52,7 @@ int Emit(const std::optional<std::string>& output, const std::string& text, std:
         return kDone;
     }
     std::string error;
-    if (!WriteFileBytes(*output, text, error)) {
+    if (!ReplaceFile(*output, text, error)) {
         err << "gradewise-cli: cannot write '" << *output << "': " << error << "\n";
         return kUsage;
     }

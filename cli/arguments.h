@@ -42,7 +42,8 @@ private:
 // written) when it cannot be read.
 bool LoadCurve(const std::string& file, CurveSheet& sheet, std::ostream& err);
 
-// To OUT when given, else to standard output; the exit status.
+// To OUT when given, through the one file writer that leaves OUT as it was when the
+// write fails; else to `out`. The exit status.
 int Emit(const std::optional<std::string>& output, const std::string& text, std::ostream& out, std::ostream& err);
 
 }  // namespace gw::cli
