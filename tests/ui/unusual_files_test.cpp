@@ -6,6 +6,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "files/settings_store.h"
 #include "platform/file_names.h"
 #include "ui_fixture.h"
 #include "tests/qt_test_printers.h"
@@ -43,6 +44,28 @@ TEST_F(UnusualFilesTest, ANameThatIsNotUtf8OpensFromItsRecentEntryAndSavesToItse
     EXPECT_EQ(files, 1);
     EXPECT_EQ(m_platform.Settings().GetAllValues("Recent Files"), std::vector<std::string>{name});
     ::unlink(name.c_str());  // Qt's temporary folder cannot remove a name it cannot decode
+}
+
+// A pipe where the settings file should be: start-up neither waits on it (it once
+// hung) nor, at the end, replaces it; the user is told once.
+TEST_F(UnusualFilesTest, ASettingsFileThatCannotBeReadIsReportedOnceAndKept) {
+    const QByteArray settings = QFile::encodeName(UserSettingsPath());
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(UserSettingsPath()).path()));
+    ASSERT_EQ(::mkfifo(settings.constData(), 0600), 0);
+    m_platform.AnswerMessage(MessageButton::Ok);
+    Main();
+    ASSERT_EQ(Messages().size(), 1);
+    EXPECT_EQ(Messages().front(), "The settings in " + UserSettingsPath() +
+                                      " could not be read (it is not a plain file). Gradewise works with its "
+                                      "defaults and leaves that file as it is.");
+    NewCurve();
+    SaveAs(FilePath("a.gwf"));  // would list the file
+    Main().close();
+    Settle();
+    struct stat info {};
+    ASSERT_EQ(::stat(settings.constData(), &info), 0);
+    EXPECT_TRUE(S_ISFIFO(info.st_mode));
+    EXPECT_EQ(Messages().size(), 1);
 }
 
 }  // namespace
