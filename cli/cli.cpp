@@ -245,11 +245,9 @@ int Run(int argc, char** argv, std::ostream& out, std::ostream& err) {
         return kDone;
     }
     if (std::optional<int> status = RunDesignCommand(args, out, err)) return *status;
-    for (const std::string& a : args) {
-        if (a == "--help" || a == "-h") {
-            out << kHelp;
-            return kDone;
-        }
+    if (AsksForHelp(args, {"-o", "--points", "--begin", "--increment", "--pdf", "--copies"})) {
+        out << kHelp;
+        return kDone;
     }
     try {
         return Execute(Parse(args), out, err);

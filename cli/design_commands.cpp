@@ -179,11 +179,9 @@ std::optional<int> RunDesignCommand(const std::vector<std::string>& args, std::o
                        : command == "check"  ? kCheckHelp
                                              : nullptr;
     if (!help) return std::nullopt;
-    for (const std::string& a : args) {
-        if (a == "--help" || a == "-h") {
-            out << help;
-            return kDone;
-        }
+    if (AsksForHelp(args, {"--every", "-o", "--speed"})) {
+        out << help;
+        return kDone;
     }
     try {
         const DesignOptions o = Parse(args);

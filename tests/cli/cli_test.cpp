@@ -189,6 +189,7 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
         {"plot", file, "--csv"},
         {"check", file, "--speed", "fast"},
         {"report", file, "--pdf", Path("none.pdf"), "--copies", "0"},  // once a 0-byte "PDF"
+        {"check", file, "--speed", "-h"},  // a value, not a call for help
     };
     for (const auto& args : bad) {
         Result r = RunCli(args);
