@@ -87,20 +87,5 @@ TEST(ReplaceFileTest, AFailedWriteLeavesThePreviousFileAndNoOther) {
     }
 }
 
-TEST(ReplaceFileTest, AFolderThatTakesNoNewFileStillTakesTheFileWhenThereIsRoom) {
-    test::TempFolder dir;
-    const fs::path folder = dir.Path() / "curves";
-    fs::create_directories(folder);
-    const fs::path file = folder / "curve.gwf";
-    Put(file, std::string(5000, 'p'));
-    std::string error;
-    {
-        test::ReadOnlyFolder readOnly(folder, file);
-        ASSERT_TRUE(ReplaceFile(file.string(), "shorter", error)) << error;
-    }
-    EXPECT_EQ(Read(file), "shorter");
-    EXPECT_EQ(Names(folder), std::vector<std::string>{"curve.gwf"});
-}
-
 }  // namespace
 }  // namespace gw
