@@ -159,7 +159,7 @@ Outcome ApplyAutoStationing(CurveSheet& sheet, const AutoStationing& answer, boo
         const double pvt = JoinStation(t.txtPVTSTA, t.txtPVTSTAM, units);
         // One point has no interval to divide: it is the PVC alone.
         const double d = n > 1 ? (pvt - pvc) / (n - 1) : 0;
-        WriteRows(t, StationSteps(pvc, d, pvt, static_cast<std::size_t>(std::min(n, kRowCount))), units);
+        WriteRows(t, StationSteps(pvc, d, pvt, static_cast<std::size_t>(std::clamp(n, 0, kRowCount))), units);
     } else {
         if (answer.incSTA == 0 && answer.incSTAM == 0) return std::nullopt;
         sheet.changed = true;
