@@ -12,12 +12,12 @@ double CurveGeometry::gradeChange() const { return std::fabs(g1 - g2); }
 
 double CurveGeometry::GradeAt(double x) const { return g1 + (g2 - g1) * x / length; }
 
+// The elevation run's own order of operations, so a station gives the digits the
+// elevations window shows for it.
+double CurveGeometry::HalfRateOfChange() const { return (g2 / 100 - g1 / 100) / length / 2; }
+
 double CurveGeometry::ElevationAt(double x) const {
-    // The elevation run's own order of operations, so a station gives the digits the
-    // elevations window shows for it.
-    const double f1 = g1 / 100;
-    const double a = (g2 / 100 - f1) / length / 2;
-    return pvcElevation + f1 * x + a * (x * x);
+    return pvcElevation + g1 / 100 * x + HalfRateOfChange() * (x * x);
 }
 
 std::optional<double> CurveGeometry::TurningPoint() const {

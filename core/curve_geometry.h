@@ -24,6 +24,9 @@ struct CurveGeometry {
     double gradeChange() const;
     bool isCrest() const { return g1 > g2; }
 
+    // (g2 - g1) / L / 2 with the grades as fractions: the parabola's x^2 term. Not
+    // finite when the length is too short for the change of grade.
+    double HalfRateOfChange() const;
     // x is the distance from the PVC along the curve, 0 <= x <= L.
     double GradeAt(double x) const;
     double ElevationAt(double x) const;

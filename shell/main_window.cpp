@@ -13,6 +13,7 @@
 #include "core/messages.h"
 #include "files/commands/file_commands.h"
 #include "files/commands/recent_files_menu.h"
+#include "platform/file_names.h"
 #include "platform/platform.h"
 #include "display_check.h"
 #include "placement.h"
@@ -73,6 +74,10 @@ bool frmMain::MDIForm_Load() {
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     RestorePlacement();
     m_recent->UpdateRecentFileMenu();
+    // Said once, here: the store is then left alone for the rest of the run.
+    if (const std::string& problem = m_platform.Settings().ReadProblem(); !problem.empty()) {
+        ShowRefusal(m_platform, this, FileNameFromBytes(problem));
+    }
     return true;
 }
 
