@@ -7,6 +7,7 @@
 #include "cli/svg_writer.h"
 #include "cli/text_output.h"
 #include "core/numbers.h"
+#include "core/station_steps.h"
 
 namespace gw::cli {
 namespace {
@@ -29,7 +30,7 @@ double Step(double span, int count) {
     return 10 * power;
 }
 
-std::string Point(double x, double y) { return SvgWriter::Num(x) + "," + SvgWriter::Num(y); }
+std::string Point(SvgWriter& svg, double x, double y) { return svg.Num(x) + "," + svg.Num(y); }
 
 struct Mark {
     double station, elevation;
@@ -146,8 +147,8 @@ void Drawing::Lines(SvgWriter& svg) const {
     for (const ProfilePvi& v : m_p.pvis()) {
         if (!v.curve) continue;
         const VerticalCurve& c = *v.curve;
-        svg.Path("M" + Point(X(c.pvc()), Y(c.pvcElevation())) + " L" + Point(X(v.station), Y(v.elevation)) + " L" +
-                     Point(X(c.pvt()), Y(c.pvtElevation())),
+        svg.Path("M" + Point(svg, X(c.pvc()), Y(c.pvcElevation())) + " L" + Point(svg, X(v.station), Y(v.elevation)) + " L" +
+                     Point(svg, X(c.pvt()), Y(c.pvtElevation())),
                  R"(fill="none" stroke="#888888" stroke-width="1" stroke-dasharray="6 4")");
     }
     for (const ProfilePiece& piece : m_p.pieces()) {
@@ -161,7 +162,7 @@ void Drawing::Lines(SvgWriter& svg) const {
         // A parabola is the quadratic Bezier whose control point is where its end
         // tangents meet, and scaling keeps that true.
         const double control = Y(g.pvcElevation + g.g1 / 100 * g.length / 2);
-        svg.Path("M" + Point(x0, y0) + " Q" + Point(X(g.pvc + g.length / 2), control) + " " + Point(x1, y1),
+        svg.Path("M" + Point(svg, x0, y0) + " Q" + Point(svg, X(g.pvc + g.length / 2), control) + " " + Point(svg, x1, y1),
                  std::string("fill=\"none\" stroke=\"") + kCurveColour + "\" stroke-width=\"2.6\"");
     }
 }
@@ -175,12 +176,12 @@ void Drawing::Marks(SvgWriter& svg) {
             svg.Circle(x, y, 3.5, R"(fill="#ffffff" stroke="#555555" stroke-width="1.2")");
         } else if (turning) {
             svg.Path(
-                "M" + Point(x, y - 5) + " L" + Point(x + 5, y) + " L" + Point(x, y + 5) + " L" + Point(x - 5, y) + " Z",
+                "M" + Point(svg, x, y - 5) + " L" + Point(svg, x + 5, y) + " L" + Point(svg, x, y + 5) + " L" + Point(svg, x - 5, y) + " Z",
                 R"(fill="#b3261e" stroke="#ffffff" stroke-width="1")");
         } else {
             svg.Circle(x, y, 4, std::string("fill=\"#ffffff\" stroke=\"") + kInk + "\" stroke-width=\"1.8\"");
         }
-        svg.Path("M" + Point(x, y - 6) + " L" + Point(x, kTop) + " L" + Point(m.labelX, kLabelBottom + 6),
+        svg.Path("M" + Point(svg, x, y - 6) + " L" + Point(svg, x, kTop) + " L" + Point(svg, m.labelX, kLabelBottom + 6),
                  R"(fill="none" stroke="#aaaaaa" stroke-width="0.7")");
         svg.Text(m.labelX + 4, kLabelBottom, m.label, R"(font-size="11" fill="#222222")", -90);
     }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "numbers.h"
+#include "station_steps.h"
 
 namespace gw {
 
@@ -12,8 +13,6 @@ std::string PviLabel(size_t index, const std::string& source) {
     if (!source.empty()) label += " (" + source + ")";
     return label;
 }
-
-double StationTolerance(double station) { return std::max(1e-9, 1e-14 * std::fabs(station)); }
 
 std::string Profile::PviName(size_t index) const { return PviLabel(index, m_pvis[index].source); }
 

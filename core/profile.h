@@ -92,8 +92,4 @@ ProfileOutcome BuildProfile(const ProfileInput& input);
 // "PVI 3 (line 6)": PVIs are numbered from 1.
 std::string PviLabel(size_t index, const std::string& source);
 
-// Stations closer than this are one station: sums of decimal lengths are not exact.
-// Far above the noise of a few units in the last place, far below anything built.
-double StationTolerance(double station);
-
 }  // namespace gw

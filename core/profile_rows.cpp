@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "numbers.h"
+#include "station_steps.h"
 
 namespace gw {
 namespace {
