@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QDir>
 #include <QTimer>
+#include <csignal>
+#include <unistd.h>
 
+#include "platform/file_names.h"
 #include "platform/qt_platform.h"
 #include "shell/app_icon.h"
 #include "shell/command_line.h"
@@ -16,8 +19,16 @@ int main(int argc, char* argv[]) {
     // The program ends by its own rule: when the frame has closed every curve window.
     QApplication::setQuitOnLastWindowClosed(false);
 
-    // Read before start-up moves the current folder to the program's own.
-    const QStringList files = gw::CurveFileArguments(QCoreApplication::arguments().mid(1), QDir::currentPath());
+    // A file-size limit then fails a save like a full disk, with its message.
+    std::signal(SIGXFSZ, SIG_IGN);
+
+    // Read before start-up moves the current folder to the program's own. The names
+    // are taken as the bytes they are (QApplication has removed its own options).
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) arguments << gw::FileNameFromBytes(argv[i]);
+    char start[4096];
+    const QString startFolder = ::getcwd(start, sizeof start) ? gw::FileNameFromBytes(start) : QDir::currentPath();
+    const QStringList files = gw::CurveFileArguments(arguments, startFolder);
 
     gw::QtPlatform platform;
     gw::frmMain mainWindow(platform);

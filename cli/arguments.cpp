@@ -3,6 +3,7 @@
 #include "cli/cli.h"
 #include "core/curve_file.h"
 #include "files/curve_file_io.h"
+#include "files/replace_file.h"
 
 namespace gw::cli {
 
@@ -35,6 +36,15 @@ std::optional<std::string> CommandArguments::Value(const std::string& option) co
     return it->second;
 }
 
+bool AsksForHelp(const std::vector<std::string>& args, std::initializer_list<const char*> withValue) {
+    const std::set<std::string> valued(withValue.begin(), withValue.end());
+    for (size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "--help" || args[i] == "-h") return true;
+        if (valued.count(args[i])) ++i;
+    }
+    return false;
+}
+
 bool LoadCurve(const std::string& file, CurveSheet& sheet, std::ostream& err) {
     std::string bytes, error;
     if (!ReadFileBytes(file, bytes, error)) {
@@ -51,7 +61,7 @@ int Emit(const std::optional<std::string>& output, const std::string& text, std:
         return kDone;
     }
     std::string error;
-    if (!WriteFileBytes(*output, text, error)) {
+    if (!ReplaceFile(*output, text, error)) {
         err << "gradewise-cli: cannot write '" << *output << "': " << error << "\n";
         return kUsage;
     }

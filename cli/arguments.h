@@ -38,11 +38,16 @@ private:
     std::set<std::string> m_flags;
 };
 
+// True when a word of the command line asks for help ("--help" or "-h"); the word after
+// an option in `withValue` is that option's value, even when it reads "-h".
+bool AsksForHelp(const std::vector<std::string>& args, std::initializer_list<const char*> withValue);
+
 // The curve file as opening it in the program gives it; false (with the message
 // written) when it cannot be read.
 bool LoadCurve(const std::string& file, CurveSheet& sheet, std::ostream& err);
 
-// To OUT when given, else to standard output; the exit status.
+// To OUT when given, through the one file writer that leaves OUT as it was when the
+// write fails; else to `out`. The exit status.
 int Emit(const std::optional<std::string>& output, const std::string& text, std::ostream& out, std::ostream& err);
 
 }  // namespace gw::cli

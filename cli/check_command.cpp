@@ -31,8 +31,8 @@ const char* const kCheckHelp =
     "  --speed V    the design speed\n"
     "\n"
     "Exit status: 0 the curve is long enough; 4 it is too short (the last line says\n"
-    "so); 1 the curve could not be solved (the message on stderr); 2 bad arguments\n"
-    "or an unreadable file.\n";
+    "so); 1 the curve could not be solved (the message on stderr); 2 bad arguments,\n"
+    "an unreadable file or an output that could not be written.\n";
 
 namespace {
 

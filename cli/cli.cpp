@@ -62,7 +62,8 @@ constexpr const char* kHelp =
     "  -o OUT         write to OUT instead of standard output\n"
     "\n"
     "Exit status: 0 done; 1 a check refused the calculation (its message on stderr);\n"
-    "2 bad arguments or an unreadable file; 3 an elevation station lies outside the\n"
+    "2 bad arguments, an unreadable file or an output that could not be written (an\n"
+    "output file is then left as it was); 3 an elevation station lies outside the\n"
     "curve (the curve as far as it was computed is still written); 4 check found\n"
     "the curve too short for the design speed.\n";
 
@@ -124,12 +125,14 @@ Options Parse(const std::vector<std::string>& args) {
     return o;
 }
 
-// The number of copies the print dialog would be given: a whole number from 0 to 99.
+// The number of copies the print dialog would be given: a whole number from 1 to 99
+// (none at all would be an empty PDF).
 int Copies(const Options& o) {
     if (!o.copies) return 1;
     const std::string& text = *o.copies;
-    if (text.empty() || text.size() > 2 || text.find_first_not_of("0123456789") != std::string::npos) {
-        throw UsageError{"--copies takes a whole number from 0 to 99"};
+    if (text.empty() || text.size() > 2 || text.find_first_not_of("0123456789") != std::string::npos ||
+        std::stoi(text) < 1) {
+        throw UsageError{"--copies takes a whole number from 1 to 99"};
     }
     return std::stoi(text);
 }
@@ -165,7 +168,10 @@ int RunPdfHelper(const std::string& file, const std::string& out, int copies, st
     int status = 0;
     while (::waitpid(pid, &status, 0) < 0 && errno == EINTR) {
     }
-    return WIFEXITED(status) ? WEXITSTATUS(status) : kUsage;
+    if (WIFEXITED(status)) return WEXITSTATUS(status);  // the helper has said why
+    err << "gradewise-cli: gradewise-pdf ended without finishing the PDF"
+        << (WIFSIGNALED(status) ? " (signal " + std::to_string(WTERMSIG(status)) + ")" : std::string()) << "\n";
+    return kUsage;
 }
 
 // The auto-stationing dialog answered as the user would have filled it in.
@@ -239,11 +245,9 @@ int Run(int argc, char** argv, std::ostream& out, std::ostream& err) {
         return kDone;
     }
     if (std::optional<int> status = RunDesignCommand(args, out, err)) return *status;
-    for (const std::string& a : args) {
-        if (a == "--help" || a == "-h") {
-            out << kHelp;
-            return kDone;
-        }
+    if (AsksForHelp(args, {"-o", "--points", "--begin", "--increment", "--pdf", "--copies"})) {
+        out << kHelp;
+        return kDone;
     }
     try {
         return Execute(Parse(args), out, err);

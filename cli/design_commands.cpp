@@ -31,8 +31,9 @@ constexpr const char* kTableHelp =
     "  --csv                comma-separated values with a header row\n"
     "  -o OUT               write to OUT instead of standard output\n"
     "\n"
-    "Exit status: 0 done; 1 the curve could not be solved (the message on stderr);\n"
-    "2 bad arguments or an unreadable file.\n";
+    "Exit status: 0 done; 1 the curve could not be solved, or an elevation cannot be\n"
+    "computed (the message on stderr); 2 bad arguments, an unreadable file or an\n"
+    "output that could not be written.\n";
 
 constexpr const char* kPlotHelp =
     "Usage: gradewise-cli plot FILE [-o OUT.svg]\n"
@@ -44,12 +45,13 @@ constexpr const char* kPlotHelp =
     "\n"
     "  -o OUT.svg    write to OUT.svg instead of standard output\n"
     "\n"
-    "Exit status: 0 done; 1 the curve could not be solved (the message on stderr);\n"
-    "2 bad arguments or an unreadable file; 3 an elevation row lies outside the curve\n"
-    "(the profile is still drawn, without that row and the rows after it).\n";
+    "Exit status: 0 done; 1 the curve could not be solved or cannot be drawn to scale\n"
+    "(the message on stderr); 2 bad arguments, an unreadable file or an output that\n"
+    "could not be written; 3 an elevation row lies outside the curve (the profile is\n"
+    "still drawn, without that row and the rows after it).\n";
 
 // Beyond this a table is a mistake in --every, not a table anyone reads.
-constexpr double kMostRows = 100000;
+constexpr std::size_t kMostRows = 100000;
 
 struct DesignOptions {
     std::string command;
@@ -90,7 +92,7 @@ double Interval(const std::string& text, const CurveSheet& sheet) {
     if (!IsNumericText(whole) || !IsNumericText(plus) || !(interval > 0)) {
         throw UsageError{"--every takes an interval greater than 0 as WHOLE+PLUS, for example 0+50"};
     }
-    if (ReadNumber(sheet.txtLC) / interval > kMostRows) {
+    if (ReadNumber(sheet.txtLC) / interval > static_cast<double>(kMostRows)) {
         throw UsageError{"--every " + text + " gives more than 100000 rows; choose a longer interval"};
     }
     return interval;
@@ -130,10 +132,16 @@ std::string OffsetCaption(const CurveSheet& s) {
 }
 
 int Table(const DesignOptions& o, const CurveSheet& sheet, std::ostream& out, std::ostream& err) {
-    const std::vector<StationRow> rows = StationRows(sheet, Interval(*o.every, sheet));
+    const StationTable table = StationRows(sheet, Interval(*o.every, sheet), kMostRows);
+    if (!table.refused.empty()) {
+        err << "gradewise-cli: " << table.refused << "\n";
+        return kRefused;
+    }
     const bool metric = sheet.IsMetric();
-    return Emit(o, o.csv ? StationTableCsv(rows, metric) : StationTableText(rows, metric, OffsetCaption(sheet)), out,
-                err);
+    return Emit(o,
+                o.csv ? StationTableCsv(table.rows, metric)
+                      : StationTableText(table.rows, metric, OffsetCaption(sheet)),
+                out, err);
 }
 
 int Plot(const DesignOptions& o, CurveSheet& sheet, std::ostream& out, std::ostream& err) {
@@ -153,7 +161,12 @@ int Plot(const DesignOptions& o, CurveSheet& sheet, std::ostream& out, std::ostr
         points.push_back({ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1), ReadNumber(row.txtTotalTopSlab1)});
     }
     const std::string title = o.file.substr(o.file.find_last_of('/') + 1);
-    const int written = Emit(o, ProfileSvg(sheet, points, "Profile of " + ToUtf8(title)), out, err);
+    const Profile profile = ProfileSvg(sheet, points, "Profile of " + ToUtf8(title));
+    if (!profile.refused.empty()) {
+        err << "gradewise-cli: " << profile.refused << "\n";
+        return kRefused;
+    }
+    const int written = Emit(o, profile.svg, out, err);
     return written == kDone ? status : written;
 }
 
@@ -166,11 +179,9 @@ std::optional<int> RunDesignCommand(const std::vector<std::string>& args, std::o
                        : command == "check"  ? kCheckHelp
                                              : nullptr;
     if (!help) return std::nullopt;
-    for (const std::string& a : args) {
-        if (a == "--help" || a == "-h") {
-            out << help;
-            return kDone;
-        }
+    if (AsksForHelp(args, {"--every", "-o", "--speed"})) {
+        out << help;
+        return kDone;
     }
     try {
         const DesignOptions o = Parse(args);

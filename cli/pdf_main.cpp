@@ -1,6 +1,7 @@
 // gradewise-pdf: renders a curve file's report to a PDF file for gradewise-cli.
 // It is a program of its own so that the command-line tool does not load the Qt
 // libraries for every other command.
+#include <csignal>
 #include <iostream>
 #include <string>
 
@@ -9,6 +10,7 @@
 #include "files/curve_file_io.h"
 
 int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN);  // a file-size limit is reported as any failed write
     if (argc != 4) {
         std::cerr << "usage: gradewise-pdf FILE OUT.pdf COPIES (used by gradewise-cli report --pdf)\n";
         return 2;

@@ -1,8 +1,8 @@
 #include "pdf_report.h"
 
+#include <QBuffer>
 #include <QDateTime>
 #include <QDir>
-#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QPdfWriter>
@@ -11,6 +11,7 @@
 #include <unistd.h>
 
 #include "core/report.h"
+#include "files/replace_file.h"
 #include "print/page_printer.h"
 #include "print/report_copies.h"
 
@@ -38,30 +39,30 @@ std::unique_ptr<QGuiApplication> EnsureGuiApplication() {
 
 bool WriteReportPdf(const CurveSheet& sheet, const std::string& path, int copies, std::string& error) {
     const std::unique_ptr<QGuiApplication> app = EnsureGuiApplication();
-    const QString file = QString::fromStdString(path);
-    QFile probe(file);
-    if (!probe.open(QIODevice::WriteOnly)) {
-        error = probe.errorString().toStdString();
-        return false;
+    // The pages are made in memory and only then written, through the one file writer:
+    // a failure never leaves a cut PDF or an emptied old one, and the file name stays
+    // the bytes it was given.
+    QBuffer pdf;
+    pdf.open(QIODevice::WriteOnly);
+    {
+        QPdfWriter writer(&pdf);
+        writer.setTitle(QStringLiteral("Gradewise"));
+        writer.setCreator(QStringLiteral("gradewise-cli"));
+        writer.setPageSize(QPageSize(QPageSize::Letter));
+        writer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
+        const QDateTime now = QDateTime::currentDateTime();
+        const QLocale locale = QLocale::system();
+        const std::vector<std::string> lines =
+            ReportLines(sheet, locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
+                        locale.toString(now.time(), QLocale::ShortFormat).toStdString());
+        PagePrinter printer(writer);
+        if (!PrintReportCopies(printer, lines, copies)) {
+            error = "the PDF could not be made";
+            return false;
+        }
     }
-    probe.close();
-
-    QPdfWriter writer(file);
-    writer.setTitle(QStringLiteral("Gradewise"));
-    writer.setCreator(QStringLiteral("gradewise-cli"));
-    writer.setPageSize(QPageSize(QPageSize::Letter));
-    writer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
-    const QDateTime now = QDateTime::currentDateTime();
-    const QLocale locale = QLocale::system();
-    const std::vector<std::string> lines =
-        ReportLines(sheet, locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
-                    locale.toString(now.time(), QLocale::ShortFormat).toStdString());
-    PagePrinter printer(writer);
-    if (!PrintReportCopies(printer, lines, copies)) {
-        error = "the PDF could not be written";
-        return false;
-    }
-    return true;
+    const QByteArray& bytes = pdf.data();
+    return ReplaceFile(path, std::string_view(bytes.constData(), size_t(bytes.size())), error);
 }
 
 }  // namespace gw::cli

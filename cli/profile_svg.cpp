@@ -8,6 +8,8 @@
 #include "cli/text_output.h"
 #include "core/curve_geometry.h"
 #include "core/numbers.h"
+#include "core/station_rows.h"
+#include "core/station_steps.h"
 
 namespace gw::cli {
 namespace {
@@ -19,6 +21,9 @@ constexpr double kLeft = 92, kRight = 930, kTop = 78, kBottom = 510;  // the plo
 constexpr double kRoomOut = 96, kRoomIn = 70;
 constexpr double kFont = 12, kLineHeight = 14;
 constexpr double kPi = 3.14159265358979323846;
+// Far more grid lines than a drawing of this size can show: reaching it means the
+// numbers are beyond drawing, not that the drawing needs them.
+constexpr std::size_t kMostGridLines = 100;
 
 constexpr const char* kCurveColour = "#1f4e8c";
 constexpr const char* kRowColour = "#d9661f";
@@ -80,7 +85,7 @@ public:
     ProfileDrawing(const CurveSheet& sheet, const std::vector<ProfilePoint>& rows)
         : m_sheet(sheet), m_curve(ReadCurveGeometry(sheet)), m_rows(rows), m_svg(kWidth, kHeight) {}
 
-    std::string Draw(std::string_view title);
+    Profile Draw(std::string_view title);
 
 private:
     double X(double station) const { return kLeft + (station - m_stationMin) * m_pxPerUnit; }
@@ -95,7 +100,9 @@ private:
     double Out() const { return m_curve.isCrest() ? -1 : 1; }
     std::string Unit() const { return m_curve.metric ? "m" : "ft"; }
 
-    void Scale();
+    // Empty when the scale can be drawn, else why not.
+    std::string Scale();
+    std::string P(double x, double y) { return m_svg.Num(x) + "," + m_svg.Num(y); }
     void Grid();
     void GradeLine();
     void Points();
@@ -116,11 +123,12 @@ private:
     double m_stationMin = 0, m_stationMax = 0, m_stationStep = 0;
     double m_pxPerUnit = 0, m_exaggeration = 1;
     double m_elevationTop = 0, m_yOfTop = 0;
+    std::optional<StationSteps> m_stationTicks, m_elevationTicks;
     std::vector<Box> m_taken;
     Box m_pviLabel{};
 };
 
-void ProfileDrawing::Scale() {
+std::string ProfileDrawing::Scale() {
     const double L = m_curve.length;
     m_pvtElevation = m_curve.ElevationAt(L);
     const double span = L * 1.6;
@@ -138,22 +146,41 @@ void ProfileDrawing::Scale() {
     const double spare = room - (*hi - *lo) * m_pxPerUnit * m_exaggeration;
     m_elevationTop = *hi;
     m_yOfTop = kTop + (m_curve.isCrest() ? kRoomOut : kRoomIn) + spare / 2;
+
+    // Grid lines step through the shared bounded stepping: values too large for their
+    // step stop here with a reason instead of running on.
+    m_stationTicks.emplace(m_stationMin, m_stationStep, m_stationMax + m_stationStep / 1000, kMostGridLines);
+    const double top = m_elevationTop + (m_yOfTop - kTop) / (m_pxPerUnit * m_exaggeration);
+    const double bottom = m_elevationTop - (kBottom - m_yOfTop) / (m_pxPerUnit * m_exaggeration);
+    const double step = NiceStep(top - bottom, 8);
+    m_elevationTicks.emplace(std::ceil(bottom / step) * step, step, top, kMostGridLines);
+    const auto drawable = [](const StationSteps& ticks) {
+        return ticks.Count() > 0 && !ticks.Capped() && ticks.Resolved();
+    };
+    if (!drawable(*m_stationTicks) || !(m_pxPerUnit > 0) || !std::isfinite(m_pxPerUnit)) {
+        return "at stations near " + StationText(m_curve.pvc, m_curve.metric) + " a length of curve of " +
+               m_sheet.txtLC + " cannot be drawn to scale";
+    }
+    if (!drawable(*m_elevationTicks)) {
+        return "at elevations near " + FormatNumber(m_curve.pvcElevation) +
+               " the rise and fall of this curve cannot be drawn to scale";
+    }
+    return {};
 }
 
 void ProfileDrawing::Grid() {
     m_svg.Rect(0, 0, kWidth, kHeight, R"(fill="#ffffff")");
     const std::string grid = std::string("stroke=\"") + kGridColour + "\" stroke-width=\"1\"";
     const std::string tickText = R"(font-size="12" fill="#333333")";
-    for (double s = m_stationMin; s <= m_stationMax + m_stationStep / 1000; s += m_stationStep) {
+    for (std::size_t i = 0; i < m_stationTicks->Count(); ++i) {
+        const double s = m_stationTicks->At(i);
         const double x = X(s);
         m_svg.Line(x, kTop, x, kBottom, grid);
         m_svg.Line(x, kBottom, x, kBottom + 5, R"(stroke="#777777")");
         m_svg.Text(x, kBottom + 19, TickStation(s, m_curve.metric), tickText + R"( text-anchor="middle")");
     }
-    const double top = m_elevationTop + (m_yOfTop - kTop) / (m_pxPerUnit * m_exaggeration);
-    const double bottom = m_elevationTop - (kBottom - m_yOfTop) / (m_pxPerUnit * m_exaggeration);
-    const double step = NiceStep(top - bottom, 8);
-    for (double e = std::ceil(bottom / step) * step; e <= top; e += step) {
+    for (std::size_t i = 0; i < m_elevationTicks->Count(); ++i) {
+        const double e = m_elevationTicks->At(i);
         const double y = Y(e);
         m_svg.Line(kLeft, y, kRight, y, grid);
         m_svg.Line(kLeft - 5, y, kLeft, y, R"(stroke="#777777")");
@@ -169,7 +196,6 @@ void ProfileDrawing::GradeLine() {
     const double x0 = X(m_curve.pvc), y0 = Y(m_curve.pvcElevation);
     const double xi = X(m_curve.pvi()), yi = Y(m_curve.pviElevation());
     const double x1 = X(m_curve.pvt()), y1 = Y(m_pvtElevation);
-    const auto P = [](double x, double y) { return SvgWriter::Num(x) + "," + SvgWriter::Num(y); };
     m_svg.Path("M" + P(x0, y0) + " L" + P(xi, yi) + " L" + P(x1, y1),
                R"(fill="none" stroke="#777777" stroke-width="1.2" stroke-dasharray="7 5")");
     const std::string tangent = std::string("stroke=\"") + kInk + "\" stroke-width=\"2\" stroke-linecap=\"round\"";
@@ -208,7 +234,6 @@ void ProfileDrawing::Points() {
     if (auto tp = m_curve.TurningPoint()) {
         const double x = X(m_curve.pvc + *tp), y = Y(m_curve.ElevationAt(*tp));
         Obstacle(x, y, 7);
-        const auto P = [](double px, double py) { return SvgWriter::Num(px) + "," + SvgWriter::Num(py); };
         m_svg.Path("M" + P(x, y - 6) + " L" + P(x + 6, y) + " L" + P(x, y + 6) + " L" + P(x - 6, y) + " Z",
                    R"(fill="#b3261e" stroke="#ffffff" stroke-width="1")");
     }
@@ -278,7 +303,6 @@ void ProfileDrawing::LengthDimension() {
     m_svg.Line(x0, Y(m_curve.pvcElevation) + 7 * Out(), x0, y, thin);
     m_svg.Line(x1, Y(m_pvtElevation) + 7 * Out(), x1, y, thin);
     m_svg.Line(x0, y, x1, y, R"(stroke="#444444" stroke-width="1")");
-    const auto P = [](double px, double py) { return SvgWriter::Num(px) + "," + SvgWriter::Num(py); };
     m_svg.Path("M" + P(x0, y) + " L" + P(x0 + 9, y - 3.5) + " L" + P(x0 + 9, y + 3.5) + " Z", R"(fill="#444444")");
     m_svg.Path("M" + P(x1, y) + " L" + P(x1 - 9, y - 3.5) + " L" + P(x1 - 9, y + 3.5) + " Z", R"(fill="#444444")");
     const double ty = Out() < 0 ? y - 6 : y + 15;
@@ -344,8 +368,9 @@ void ProfileDrawing::Legend() {
     }
 }
 
-std::string ProfileDrawing::Draw(std::string_view title) {
-    Scale();
+Profile ProfileDrawing::Draw(std::string_view title) {
+    if (std::string why = WhyNoElevations(m_sheet); !why.empty()) return {{}, why};
+    if (std::string why = Scale(); !why.empty()) return {{}, "the curve cannot be drawn: " + why};
     Grid();
     GradeLine();
     Points();
@@ -354,12 +379,13 @@ std::string ProfileDrawing::Draw(std::string_view title) {
     GradeNotes();
     Headings(title);
     Legend();
-    return m_svg.Finish();
+    if (!m_svg.AllFinite()) return {{}, "the curve cannot be drawn: its numbers lie beyond the range of drawing"};
+    return {m_svg.Finish(), {}};
 }
 
 }  // namespace
 
-std::string ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title) {
+Profile ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title) {
     return ProfileDrawing(solved, rows).Draw(title);
 }
 

@@ -14,9 +14,14 @@ struct ProfilePoint {
     double elevation;
 };
 
+struct Profile {
+    std::string svg;
+    std::string refused;  // why the curve cannot be drawn to scale; then there is no svg
+};
+
 // Tangents and parabola to scale (with a stated vertical exaggeration), PVC, PVI, PVT
 // and turning point labelled with station and elevation, `rows` as points, grades and
 // length annotated. The curve must have a positive length.
-std::string ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title);
+Profile ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title);
 
 }  // namespace gw::cli

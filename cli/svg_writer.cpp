@@ -21,7 +21,9 @@ std::string EscapeXml(std::string_view text) {
 }
 
 std::string SvgWriter::Num(double value) {
-    return ShortNumber(std::round(value * 100) / 100);
+    const double rounded = std::round(value * 100) / 100;
+    if (!std::isfinite(rounded)) m_allFinite = false;
+    return ShortNumber(rounded);
 }
 
 SvgWriter::SvgWriter(double width, double height) {

@@ -22,10 +22,13 @@ public:
     std::string Finish();
 
     // A coordinate as attribute text: two decimals at most, locale-independent.
-    static std::string Num(double value);
+    std::string Num(double value);
+    // False once a coordinate was not a finite number: the drawing is then no drawing.
+    bool AllFinite() const { return m_allFinite; }
 
 private:
     std::string m_body;
+    bool m_allFinite = true;
 };
 
 std::string EscapeXml(std::string_view text);

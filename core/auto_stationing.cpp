@@ -8,6 +8,7 @@
 #include "field_checks.h"
 #include "messages.h"
 #include "numbers.h"
+#include "station_steps.h"
 #include "stations.h"
 
 namespace gw {
@@ -17,11 +18,15 @@ Refusal Refuse(std::string_view message, std::string_view field) {
     return Refusal{std::string(message), std::string(field)};
 }
 
-void WriteRow(ElevationRow& row, double station, std::string_view unitSystem) {
-    StationTexts t = SplitStation(station, unitSystem);
-    row.txtTOTSTA1 = t.whole;
-    row.txtTOTSTAM1 = t.plus;
-    row.txtTotalTopSlab1.clear();
+// One row per station, from the first row on.
+void WriteRows(ElevationTable& table, const StationSteps& stations, std::string_view unitSystem) {
+    for (std::size_t j = 0; j < stations.Count(); ++j) {
+        const StationTexts t = SplitStation(stations.At(j), unitSystem);
+        ElevationRow& row = table.rows[j];
+        row.txtTOTSTA1 = t.whole;
+        row.txtTOTSTAM1 = t.plus;
+        row.txtTotalTopSlab1.clear();
+    }
 }
 
 }  // namespace
@@ -155,11 +160,7 @@ Outcome ApplyAutoStationing(CurveSheet& sheet, const AutoStationing& answer, boo
         const double pvt = JoinStation(t.txtPVTSTA, t.txtPVTSTAM, units);
         // One point has no interval to divide: it is the PVC alone.
         const double d = n > 1 ? (pvt - pvc) / (n - 1) : 0;
-        for (int j = 0; j < n && j < kRowCount; ++j) {
-            const double s = pvc + j * d;
-            if (s > pvt) break;
-            WriteRow(t.rows[j], s, units);
-        }
+        WriteRows(t, StationSteps(pvc, d, pvt, static_cast<std::size_t>(std::clamp(n, 0, kRowCount))), units);
     } else {
         if (answer.incSTA == 0 && answer.incSTAM == 0) return std::nullopt;
         sheet.changed = true;
@@ -168,11 +169,7 @@ Outcome ApplyAutoStationing(CurveSheet& sheet, const AutoStationing& answer, boo
         const double b = answer.begSTA * K + answer.begSTAM;
         const double inc = answer.incSTA * K + answer.incSTAM;
         const double pvt = JoinStation(t.txtPVTSTA, t.txtPVTSTAM, units);
-        for (int j = 0; j < kRowCount; ++j) {
-            const double s = b + j * inc;
-            if (s > pvt) break;
-            WriteRow(t.rows[j], s, units);
-        }
+        WriteRows(t, StationSteps(b, inc, pvt, kRowCount), units);
     }
     if (filled) *filled = true;
     return CalculateTOS(sheet);

@@ -1,5 +1,6 @@
 #include "curve_geometry.h"
 
+#include <charconv>
 #include <cmath>
 
 #include "numbers.h"
@@ -11,12 +12,12 @@ double CurveGeometry::gradeChange() const { return std::fabs(g1 - g2); }
 
 double CurveGeometry::GradeAt(double x) const { return g1 + (g2 - g1) * x / length; }
 
+// The elevation run's own order of operations, so a station gives the digits the
+// elevations window shows for it.
+double CurveGeometry::HalfRateOfChange() const { return (g2 / 100 - g1 / 100) / length / 2; }
+
 double CurveGeometry::ElevationAt(double x) const {
-    // The elevation run's own order of operations, so a station gives the digits the
-    // elevations window shows for it.
-    const double f1 = g1 / 100;
-    const double a = (g2 / 100 - f1) / length / 2;
-    return pvcElevation + f1 * x + a * (x * x);
+    return pvcElevation + g1 / 100 * x + HalfRateOfChange() * (x * x);
 }
 
 std::optional<double> CurveGeometry::TurningPoint() const {
@@ -43,15 +44,40 @@ CurveGeometry ReadCurveGeometry(const CurveSheet& s) {
 }
 
 std::string StationText(double value, bool metric) {
+    std::string text;
+    AppendStationText(text, value, metric);
+    return text;
+}
+
+void AppendStationText(std::string& out, double value, bool metric) {
+    if (!std::isfinite(value)) return;
     // Before station zero the whole station keeps the sign: -0+10, not 0+-10.
-    if (value < 0) return "-" + StationText(-value, metric);
-    const StationTexts t = SplitStation(value, metric ? kMetric : kEnglish);
-    if (t.whole.empty()) return {};
-    std::string plus = t.plus;
+    if (value < 0) {
+        out += '-';
+        value = -value;
+    }
+    const double k = StationLength(metric ? kMetric : kEnglish);
+    const double whole = std::trunc(value / k);
+    const size_t plusAt = [&] {
+        if (whole >= 1e15) {  // past fifteen digits the whole part is rounded: SplitStation's text
+            const StationTexts t = SplitStation(value, metric ? kMetric : kEnglish);
+            out += t.whole + "+";
+            const size_t at = out.size();
+            out += t.plus;
+            return at;
+        }
+        // A whole number of fewer than sixteen digits is its own text, and its value
+        // read back is exact, so this is SplitStation without the texts in between.
+        char digits[24];
+        out.append(digits, std::to_chars(digits, digits + sizeof digits, static_cast<unsigned long long>(whole)).ptr);
+        out += '+';
+        const size_t at = out.size();
+        AppendNumber(out, value - whole * k);
+        return at;
+    }();
     const size_t width = metric ? 3 : 2;
-    const size_t digits = plus.find('.');
-    if (digits < width) plus.insert(0, width - digits, '0');
-    return t.whole + "+" + plus;
+    const size_t digits = out.find('.', plusAt) - plusAt;
+    if (digits < width) out.insert(plusAt, width - digits, '0');
 }
 
 }  // namespace gw

@@ -24,6 +24,9 @@ struct CurveGeometry {
     double gradeChange() const;
     bool isCrest() const { return g1 > g2; }
 
+    // (g2 - g1) / L / 2 with the grades as fractions: the parabola's x^2 term. Not
+    // finite when the length is too short for the change of grade.
+    double HalfRateOfChange() const;
     // x is the distance from the PVC along the curve, 0 <= x <= L.
     double GradeAt(double x) const;
     double ElevationAt(double x) const;
@@ -43,5 +46,7 @@ CurveGeometry ReadCurveGeometry(const CurveSheet& solved);
 // A station value as WHOLE+PLUS with the plus part padded to the station's width
 // ("10+00.0", "2+050.0", "-0+25.0"), in the number format.
 std::string StationText(double value, bool metric);
+// The same text appended to `out`, for long tables.
+void AppendStationText(std::string& out, double value, bool metric);
 
 }  // namespace gw

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace gw {
 namespace {
@@ -16,6 +17,16 @@ constexpr std::array<DesignSpeedRow, 12> kMetricRows = {{
     {80, 130}, {90, 160}, {100, 185}, {110, 220}, {120, 250}, {130, 285},
 }};
 
+// Passing sight distance for design of two-lane highways.
+constexpr std::array<DesignSpeedRow, 13> kEnglishPassingRows = {{
+    {20, 400}, {25, 450}, {30, 500}, {35, 550}, {40, 600}, {45, 700}, {50, 800},
+    {55, 900}, {60, 1000}, {65, 1100}, {70, 1200}, {75, 1300}, {80, 1400},
+}};
+constexpr std::array<DesignSpeedRow, 11> kMetricPassingRows = {{
+    {30, 120}, {40, 140}, {50, 160}, {60, 180}, {70, 210}, {80, 245},
+    {90, 280}, {100, 320}, {110, 355}, {120, 395}, {130, 440},
+}};
+
 template <size_t N>
 std::optional<DesignSpeedRow> Lookup(const std::array<DesignSpeedRow, N>& rows, double speed) {
     if (!(speed >= rows.front().speed)) return std::nullopt;  // also refuses NaN
@@ -26,7 +37,7 @@ std::optional<DesignSpeedRow> Lookup(const std::array<DesignSpeedRow, N>& rows, 
 }
 
 // Headlight height plus the beam's rise per unit of distance (tan 1 degree, as 3.5 / 100).
-double HeadlightReach(double S, bool metric) { return (metric ? 120.0 : 400.0) + 3.5 * S; }
+double HeadlightReach(double S, double H) { return H + 3.5 * S; }
 
 // The S < L form holds when the length it gives is at least S; otherwise the S > L
 // form, which goes below zero for a small change of grade: no curve is needed then.
@@ -52,6 +63,50 @@ double CrestConstant(CrestConstants which, bool metric) {
 
 MinimumLength CrestMinimumLength(double A, double S, double C) { return Either(A, S, C); }
 
-MinimumLength SagMinimumLength(double A, double S, bool metric) { return Either(A, S, HeadlightReach(S, metric)); }
+MinimumLength SagMinimumLength(double A, double S, bool metric) {
+    return HeadlightMinimumLength(A, S, HeadlightConstant(metric));
+}
+
+MinimumLength HeadlightMinimumLength(double A, double S, double H) { return Either(A, S, HeadlightReach(S, H)); }
+
+std::vector<DesignSpeedRow> DesignSpeedRows(bool metric) {
+    return metric ? std::vector<DesignSpeedRow>(kMetricRows.begin(), kMetricRows.end())
+                  : std::vector<DesignSpeedRow>(kEnglishRows.begin(), kEnglishRows.end());
+}
+
+std::optional<DesignSpeedRow> DesignPassingSightDistance(double speed, bool metric) {
+    return metric ? Lookup(kMetricPassingRows, speed) : Lookup(kEnglishPassingRows, speed);
+}
+
+double CrestConstantForHeights(double eye, double object) {
+    const double root = std::sqrt(eye) + std::sqrt(object);
+    return 200 * root * root;
+}
+
+double PassingCrestConstant(bool metric) { return metric ? 864 : 2800; }
+double DriverEyeHeight(bool metric) { return metric ? 1.08 : 3.5; }
+double StoppingObjectHeight(bool metric) { return metric ? 0.60 : 2.0; }
+double OncomingVehicleHeight(bool metric) { return metric ? 1.08 : 3.5; }
+double HeadlightHeight(bool metric) { return metric ? 0.60 : 2.0; }
+double HeadlightConstant(bool metric) { return metric ? 120 : 400; }
+double HeadlightConstantForHeight(double headlight) { return 200 * headlight; }
+double TruckEyeHeight(bool metric) { return metric ? 2.4 : 8; }
+double TaillightHeight(bool metric) { return metric ? 0.6 : 2; }
+
+MinimumLength StructureMinimumLength(double A, double S, double clearance, double eye, double object) {
+    return Either(A, S, StructureConstant(clearance, eye, object));
+}
+
+double StructureConstant(double clearance, double eye, double object) { return 800 * (clearance - (eye + object) / 2); }
+
+double ComfortMinimumLength(double A, double speed, bool metric) {
+    return A * speed * speed / ComfortConstant(metric);
+}
+
+double ComfortConstant(bool metric) { return metric ? 395 : 46.5; }
+
+double GeneralMinimumLength(double speed, bool metric) { return (metric ? 0.6 : 3) * speed; }
+
+double CurbedDrainageMaximumK(bool metric) { return metric ? 51 : 167; }
 
 }  // namespace gw

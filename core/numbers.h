@@ -24,6 +24,9 @@ bool IsNumericText(std::string_view text);
 // the degenerate curves the solvers meet show an empty result, never "inf" or "nan".
 std::string FormatNumber(double value);
 
+// FormatNumber's text appended to `out`, for long tables: no string per number.
+void AppendNumber(std::string& out, double value);
+
 // A plain decimal text of up to 15 significant digits, without exponent and without
 // trailing zeros ("1.5", "100", "-0.0133333333333333"); empty for a non-finite value.
 // This is the text a result passes through on its way into a field.

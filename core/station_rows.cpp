@@ -2,34 +2,76 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 #include "numbers.h"
+#include "station_steps.h"
 
 namespace gw {
 namespace {
 
-// Stations closer than this are one station: the sums of plus parts are not exact.
-double Tolerance(const CurveGeometry& c) { return 1e-9 * std::max(1.0, std::fabs(c.pvt())); }
-
-// First multiple of the interval strictly past the PVC.
-double FirstEvenIndex(const CurveGeometry& c, double interval) {
-    double k = std::ceil(c.pvc / interval);
-    if (k * interval <= c.pvc + Tolerance(c)) k += 1;
-    return k;
-}
+double Tolerance(const CurveGeometry& c) { return StationTolerance(c.pvt()); }
 
 struct Point {
     double x;
     std::string name;
 };
 
-std::vector<Point> Points(const CurveGeometry& c, double interval) {
-    std::vector<Point> points = {{0, "PVC"}};
+// The even stations strictly between the ends, or why they cannot be listed.
+std::string EvenPoints(const CurveGeometry& c, double interval, std::size_t most, std::vector<Point>& points) {
     const double eps = Tolerance(c);
-    for (double k = FirstEvenIndex(c, interval); k * interval < c.pvt() - eps; k += 1) {
-        points.push_back({k * interval - c.pvc, ""});
+    // First multiple of the interval strictly past the PVC.
+    double k = std::ceil(c.pvc / interval);
+    if (k * interval <= c.pvc + eps) k += 1;
+    const StationSteps steps(k * interval, interval, std::nextafter(c.pvt() - eps, -HUGE_VAL), most);
+    if (steps.Capped()) return "the interval gives more than " + std::to_string(most) + " rows";
+    // Within the tolerance two stations are one: an interval not well above it would
+    // merge or drop rows.
+    if (!steps.Resolved() || !(interval > 4 * eps)) {
+        return "at stations near " + StationText(c.pvc, c.metric) + " an interval of " + FormatNumber(interval) +
+               " is too small to tell the stations apart";
     }
+    for (std::size_t i = 0; i < steps.Count(); ++i) points.push_back({steps.At(i) - c.pvc, ""});
+    return {};
+}
+
+struct Offsets {
+    bool withV, withCross;
+    double V, cross;
+};
+
+// Each offset goes through the elevation's text, as in the elevations window; nothing
+// when a stage cannot be computed.
+std::optional<std::string> ElevationText(const CurveGeometry& c, double x, const Offsets& o) {
+    double value = c.ElevationAt(x);
+    if (!std::isfinite(value)) return std::nullopt;
+    std::string text = FormatNumber(value);
+    for (const auto& [with, add] : {std::pair{o.withV, o.V}, std::pair{o.withCross, o.cross}}) {
+        if (!with) continue;
+        value = ReadNumber(text) + add;
+        if (!std::isfinite(value)) return std::nullopt;
+        text = FormatNumber(value);
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string WhyNoElevations(const CurveSheet& solved) {
+    const CurveGeometry c = ReadCurveGeometry(solved);
+    if (std::isfinite(c.HalfRateOfChange())) return {};
+    return "the elevations of this curve cannot be computed: a length of curve of " + solved.txtLC +
+           " is too short for a change of grade of " + FormatNumber(c.gradeChange()) + " %";
+}
+
+StationTable StationRows(const CurveSheet& solved, double interval, std::size_t mostRows) {
+    StationTable table;
+    if (table.refused = WhyNoElevations(solved); !table.refused.empty()) return table;
+    const CurveGeometry c = ReadCurveGeometry(solved);
+    std::vector<Point> points = {{0, "PVC"}};
+    if (table.refused = EvenPoints(c, interval, mostRows, points); !table.refused.empty()) return table;
     points.push_back({c.length, "PVT"});
+    const double eps = Tolerance(c);
     if (auto tp = c.TurningPoint()) {
         auto at = std::lower_bound(points.begin(), points.end(), *tp - eps,
                                    [](const Point& p, double x) { return p.x < x; });
@@ -39,33 +81,29 @@ std::vector<Point> Points(const CurveGeometry& c, double interval) {
             points.insert(at, {*tp, "TP"});
         }
     }
-    return points;
-}
 
-}  // namespace
-
-std::vector<StationRow> StationRows(const CurveSheet& solved, double interval) {
-    const CurveGeometry c = ReadCurveGeometry(solved);
     const ElevationTable& t = solved.elevations;
-    const bool withV = IsNumericText(t.txtVOffset);
-    const double V = ReadNumber(t.txtVOffset);
-    const bool withCross = IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope);
-    const double cross = (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset);
-
-    std::vector<StationRow> rows;
-    for (const Point& p : Points(c, interval)) {
+    const Offsets offsets{IsNumericText(t.txtVOffset), IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope),
+                          ReadNumber(t.txtVOffset), (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset)};
+    for (const Point& p : points) {
         StationRow row;
         row.station = c.pvc + p.x;
         row.distance = p.x;
         row.grade = c.GradeAt(p.x);
-        // Each offset goes through the elevation's text, as in the elevations window.
-        row.elevation = FormatNumber(c.ElevationAt(p.x));
-        if (withV) row.elevation = FormatNumber(ReadNumber(row.elevation) + V);
-        if (withCross) row.elevation = FormatNumber(ReadNumber(row.elevation) + cross);
+        const std::optional<std::string> elevation = ElevationText(c, p.x, offsets);
+        if (!elevation || !std::isfinite(row.station) || !std::isfinite(row.grade)) {
+            table.rows.clear();
+            table.refused = std::isfinite(row.station)
+                                ? "the elevation at station " + StationText(row.station, c.metric) +
+                                      " cannot be computed: it lies beyond the range of numbers"
+                                : std::string("the stations of this curve lie beyond the range of numbers");
+            return table;
+        }
+        row.elevation = *elevation;
         row.point = p.name;
-        rows.push_back(std::move(row));
+        table.rows.push_back(std::move(row));
     }
-    return rows;
+    return table;
 }
 
 }  // namespace gw

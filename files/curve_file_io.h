@@ -14,7 +14,4 @@ inline constexpr std::size_t kCurveFileReadLimit = 4 * 1024 * 1024;
 // when the file cannot be opened or read.
 bool ReadFileBytes(const std::string& path, std::string& bytes, std::string& error);
 
-// Replaces the file's content. False with a description in `error` on failure.
-bool WriteFileBytes(const std::string& path, const std::string& bytes, std::string& error);
-
 }  // namespace gw

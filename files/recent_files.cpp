@@ -27,11 +27,16 @@ void RecentFiles::AddRecentFile(const std::string& path) {
 }
 
 void RecentFiles::StoreRecentFile(const std::string& path) {
-    for (int n = 3; n >= 1; --n) {
-        const std::string value = m_store.GetSetting(kSection, Key(n));
-        if (!value.empty()) m_store.SaveSetting(kSection, Key(n + 1), value);
-    }
-    m_store.SaveSetting(kSection, Key(1), path);
+    // One change of the store: another copy of the program adding a file meanwhile
+    // either sees this one's list or is seen by it, so neither entry is lost.
+    m_store.Change([&](SettingsStore::Sections& s) {
+        for (int n = 3; n >= 1; --n) {
+            const std::string* found = s.Find(kSection, Key(n));
+            const std::string value = found ? *found : std::string();
+            if (!value.empty()) s.Set(kSection, Key(n + 1), value);
+        }
+        s.Set(kSection, Key(1), path);
+    });
 }
 
 void RecentFiles::UpdateRecentFileMenu() {

@@ -1,19 +1,23 @@
 #include "settings_store.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
+#include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <sstream>
+#include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+#include "replace_file.h"
 
 namespace gw {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr size_t kMaxStoreBytes = 1 << 20;  // a hand-edited monster is not read whole
+constexpr size_t kMaxStoreBytes = 1 << 20;  // far beyond any store the program writes
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 // Values may hold any character; line breaks and backslashes are escaped so that
 // one entry stays one line.
@@ -43,39 +47,130 @@ std::string Unescape(const std::string& text) {
     return out;
 }
 
+// The file's bytes. A missing file is empty; anything else that gives no bytes is a
+// problem, described in `problem`. Only plain files are opened, and never waited on.
+std::string ReadStore(const std::string& path, std::string& problem) {
+    const int fd = ::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) {
+        if (errno != ENOENT && errno != ENOTDIR) problem = std::strerror(errno);
+        return {};
+    }
+    std::string content;
+    struct stat info {};
+    if (::fstat(fd, &info) != 0) {
+        problem = std::strerror(errno);
+    } else if (!S_ISREG(info.st_mode)) {
+        problem = "it is not a plain file";
+    } else {
+        char buffer[65536];
+        for (;;) {
+            const ssize_t n = ::read(fd, buffer, sizeof buffer);
+            if (n < 0 && errno == EINTR) continue;
+            if (n < 0) {
+                problem = std::strerror(errno);
+                break;
+            }
+            if (n == 0) break;
+            content.append(buffer, static_cast<size_t>(n));
+            if (content.size() > kMaxStoreBytes) {
+                problem = "it is larger than 1 MiB";
+                break;
+            }
+        }
+    }
+    ::close(fd);
+    if (!problem.empty()) content.clear();
+    return content;
+}
+
+// Keeps other copies of the program out of the store's folder while one changes it.
+// Never waits long: a copy that hangs holding the lock must not hang this one.
+class FolderLock {
+public:
+    explicit FolderLock(const std::string& folder)
+        : m_fd(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+        for (int attempt = 0; m_fd >= 0 && attempt < 300; ++attempt) {
+            if (::flock(m_fd, LOCK_EX | LOCK_NB) == 0) return;
+            if (errno != EWOULDBLOCK && errno != EINTR) return;  // no locks here: go on without
+            ::usleep(10000);
+        }
+    }
+    ~FolderLock() {
+        if (m_fd >= 0) ::close(m_fd);  // releases the lock
+    }
+    FolderLock(const FolderLock&) = delete;
+    FolderLock& operator=(const FolderLock&) = delete;
+
+private:
+    int m_fd;
+};
+
 }  // namespace
+
+const std::string* SettingsStore::Sections::Find(const std::string& section, const std::string& key) const {
+    for (const Section& s : m_sections) {
+        if (s.name != section) continue;
+        for (const auto& [k, v] : s.entries) {
+            if (k == key) return &v;
+        }
+    }
+    return nullptr;
+}
+
+SettingsStore::Sections::Section& SettingsStore::Sections::Named(const std::string& name) {
+    for (Section& s : m_sections) {
+        if (s.name == name) return s;
+    }
+    m_sections.push_back({name, {}});
+    return m_sections.back();
+}
+
+void SettingsStore::Sections::Set(const std::string& section, const std::string& key, const std::string& value) {
+    Section& s = Named(section);
+    for (auto& [k, v] : s.entries) {
+        if (k == key) {
+            v = value;
+            return;
+        }
+    }
+    s.entries.emplace_back(key, value);
+}
+
+std::vector<std::string> SettingsStore::Sections::Values(const std::string& section) const {
+    std::vector<std::string> values;
+    for (const Section& s : m_sections) {
+        if (s.name != section) continue;
+        for (const auto& entry : s.entries) values.push_back(entry.second);
+    }
+    return values;
+}
 
 SettingsStore::SettingsStore(std::string filePath) : m_path(std::move(filePath)) {}
 
-std::vector<SettingsStore::Section> SettingsStore::Load() const {
-    std::vector<Section> sections;
-    std::ifstream in(m_path, std::ios::binary);
-    if (!in) return sections;
-    std::string content(kMaxStoreBytes, '\0');
-    in.read(content.data(), static_cast<std::streamsize>(content.size()));
-    content.resize(static_cast<size_t>(in.gcount()));
+SettingsStore::Sections SettingsStore::Load() const {
+    Sections sections;
+    std::string problem;
+    std::string content = ReadStore(m_path, problem);
+    if (!problem.empty()) {
+        if (m_readProblem.empty()) {
+            m_readProblem = "The settings in " + m_path + " could not be read (" + problem +
+                            "). Gradewise works with its defaults and leaves that file as it is.";
+        }
+        return sections;
+    }
+    // A store saved by an editor that marks UTF-8 files.
+    if (content.compare(0, kByteOrderMark.size(), kByteOrderMark) == 0) content.erase(0, kByteOrderMark.size());
 
     std::istringstream lines(content);
     std::string line;
-    Section* current = nullptr;
+    Sections::Section* current = nullptr;
     while (std::getline(lines, line)) {
         if (!line.empty() && line.back() == '\r') line.pop_back();
         if (line.empty() || line[0] == ';' || line[0] == '#') continue;
         if (line[0] == '[') {
             const size_t close = line.find(']');
-            if (close == std::string::npos) {
-                current = nullptr;  // garbled header: ignore its keys
-                continue;
-            }
-            const std::string name = line.substr(1, close - 1);
-            current = nullptr;
-            for (Section& s : sections) {
-                if (s.name == name) current = &s;
-            }
-            if (!current) {
-                sections.push_back({name, {}});
-                current = &sections.back();
-            }
+            // A garbled header: its keys are ignored.
+            current = close == std::string::npos ? nullptr : &sections.Named(line.substr(1, close - 1));
             continue;
         }
         const size_t eq = line.find('=');
@@ -94,86 +189,45 @@ std::vector<SettingsStore::Section> SettingsStore::Load() const {
     return sections;
 }
 
-bool SettingsStore::Save(const std::vector<Section>& sections, std::string* error) const {
-    auto fail = [&](int err) {
-        if (error) *error = std::strerror(err);
+bool SettingsStore::Change(const std::function<void(Sections&)>& change, std::string* error) {
+    auto fail = [&](const std::string& why) {
+        if (error) *error = why;
         return false;
     };
     std::error_code ec;
     const fs::path path(m_path);
-    if (path.has_parent_path()) {
-        fs::create_directories(path.parent_path(), ec);
-        if (ec) return fail(ec.value());
-    }
+    const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
+    fs::create_directories(folder, ec);
+    if (ec) return fail(std::strerror(ec.value()));
+    const FolderLock lock(folder.string());
+    Sections sections = Load();
+    if (!m_readProblem.empty()) return fail("the settings file could not be read, so it is left as it is");
+    change(sections);
     std::string text;
-    for (const Section& s : sections) {
+    for (const Sections::Section& s : sections.m_sections) {
         text += "[" + s.name + "]\n";
         for (const auto& [k, v] : s.entries) text += k + "=" + Escape(v) + "\n";
         text += "\n";
     }
-    // Write beside the old file and rename over it, so a crash or a full disk
-    // never leaves a half-written store.
-    const std::string temp = m_path + ".tmp" + std::to_string(::getpid());
-    std::FILE* f = std::fopen(temp.c_str(), "wb");
-    if (!f) return fail(errno);
-    bool ok = std::fwrite(text.data(), 1, text.size(), f) == text.size() && std::fflush(f) == 0 &&
-              ::fsync(::fileno(f)) == 0;
-    int err = errno;
-    if (std::fclose(f) != 0 && ok) {
-        ok = false;
-        err = errno;
-    }
-    if (ok && std::rename(temp.c_str(), m_path.c_str()) != 0) {
-        ok = false;
-        err = errno;
-    }
-    if (!ok) {
-        std::remove(temp.c_str());
-        return fail(err);
-    }
+    std::string why;
+    if (!ReplaceFile(m_path, text, why)) return fail(why);
     return true;
 }
 
 std::string SettingsStore::GetSetting(const std::string& section, const std::string& key,
                                       const std::string& defaultValue) const {
-    for (const Section& s : Load()) {
-        if (s.name != section) continue;
-        for (const auto& [k, v] : s.entries) {
-            if (k == key) return v;
-        }
-    }
-    return defaultValue;
+    const Sections sections = Load();
+    const std::string* value = sections.Find(section, key);
+    return value ? *value : defaultValue;
 }
 
 bool SettingsStore::SaveSetting(const std::string& section, const std::string& key, const std::string& value,
                                 std::string* error) {
-    std::vector<Section> sections = Load();
-    Section* target = nullptr;
-    for (Section& s : sections) {
-        if (s.name == section) target = &s;
-    }
-    if (!target) {
-        sections.push_back({section, {}});
-        target = &sections.back();
-    }
-    bool found = false;
-    for (auto& [k, v] : target->entries) {
-        if (k == key) {
-            v = value;
-            found = true;
-        }
-    }
-    if (!found) target->entries.emplace_back(key, value);
-    return Save(sections, error);
+    return Change([&](Sections& s) { s.Set(section, key, value); }, error);
 }
 
 std::vector<std::string> SettingsStore::GetAllValues(const std::string& section) const {
-    std::vector<std::string> values;
-    for (const Section& s : Load()) {
-        if (s.name != section) continue;
-        for (const auto& entry : s.entries) values.push_back(entry.second);
-    }
-    return values;
+    return Load().Values(section);
 }
 
 }  // namespace gw

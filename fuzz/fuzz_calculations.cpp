@@ -13,21 +13,9 @@
 #include "core/elevations.h"
 #include "core/field_checks.h"
 #include "core/numbers.h"
+#include "fuzz/fuzz_texts.h"
 
 namespace {
-
-// Splits the input into texts at NUL bytes; the first byte picks units and mode.
-std::vector<std::string> Texts(std::string_view data) {
-    std::vector<std::string> out(1);
-    for (char c : data) {
-        if (c == '\0') {
-            out.emplace_back();
-        } else if (out.back().size() < 40) {
-            out.back() += c;
-        }
-    }
-    return out;
-}
 
 bool Clean(const std::string& text) {
     if (text.find("nan") != std::string::npos || text.find("inf") != std::string::npos) return false;
@@ -49,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
     const std::string_view all(reinterpret_cast<const char*>(data), size);
     const uint8_t flags = data[0];
-    std::vector<std::string> texts = Texts(all.substr(1));
+    std::vector<std::string> texts = gw::fuzz::Texts(all.substr(1));
     size_t next = 0;
     auto text = [&] { return next < texts.size() ? texts[next++] : std::string(); };
 

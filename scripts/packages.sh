@@ -2,10 +2,12 @@
 # shellcheck disable=SC2034
 # fonts-liberation makes "Arial", the report's and the windows' font, resolve to its
 # metric twin; libxcb1-dev writes the window-manager hints of fixed dialogs.
-BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation libxcb1-dev)
+# libpugixml-dev reads and writes the LandXML profiles of gradewise-cli.
+BUILD_PACKAGES=(build-essential cmake ninja-build qt6-base-dev fonts-liberation libxcb1-dev libpugixml-dev)
 # desktop-file-utils, libxml2-utils and shared-mime-info check the installed desktop entry,
-# icon and curve-file type; openbox, xdotool and x11-utils run the desktop program under
-# a window manager on Xvfb and drive it as a user would (tests/e2e).
+# icon and curve-file type; xmllint (libxml2-utils) also checks every LandXML export
+# against the schema. openbox, xdotool and x11-utils run the desktop program under a
+# window manager on Xvfb and drive it as a user would (tests/e2e).
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev xvfb xauth fonts-liberation poppler-utils
   desktop-file-utils libxml2-utils shared-mime-info openbox xdotool x11-utils)
 FUZZ_PACKAGES=(clang libclang-rt-14-dev)

@@ -13,11 +13,13 @@
 #include "core/messages.h"
 #include "files/commands/file_commands.h"
 #include "files/commands/recent_files_menu.h"
+#include "platform/file_names.h"
 #include "platform/platform.h"
 #include "display_check.h"
 #include "frame_placement.h"
 #include "placement.h"
 #include "status_bar.h"
+#include "ui/common/on_screen.h"
 #include "ui/curve/curve_window.h"
 #include "window_arrangement.h"
 #include "window_list.h"
@@ -76,6 +78,10 @@ bool frmMain::MDIForm_Load() {
     show();
     QDir::setCurrent(QCoreApplication::applicationDirPath());
     m_recent->UpdateRecentFileMenu();
+    // Said once, over the shown frame: the store is then left alone for the rest of the run.
+    if (const std::string& problem = m_platform.Settings().ReadProblem(); !problem.empty()) {
+        WhenOnScreen(*this, [this, text = FileNameFromBytes(problem)] { ShowRefusal(m_platform, this, text); });
+    }
     return true;
 }
 

@@ -1,23 +1,17 @@
 #include "file_commands.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 #include "core/messages.h"
 #include "core/titles.h"
 #include "curve_window_host.h"
 #include "file_texts.h"
+#include "platform/file_names.h"
 #include "recent_files_menu.h"
 #include "ui/curve/curve_window.h"
 #include "ui/curve/window_slots.h"
 
 namespace gw {
-namespace {
-
-// An ordinary file, hidden or read-only ones included; a folder is no file.
-bool FileExists(const QString& path) { return QFileInfo(path).isFile(); }
-
-}  // namespace
 
 FileCommands::FileCommands(CurveWindowHost& host, WindowSlots& windowSlots, Platform& platform,
                            RecentFilesMenu& recent, QWidget* owner)
@@ -41,7 +35,7 @@ void FileCommands::OpenCurveFile() {
 }
 
 bool FileCommands::OpenNamedFile(const QString& path) {
-    if (!FileExists(path)) {
+    if (!IsPlainFile(path)) {
         ReportMissingFile();
         return false;
     }
@@ -58,14 +52,14 @@ void FileCommands::SaveCurveFile() {
     if (!m_slots.AnyCurveWindowOpen()) return;
     frmCrestCurve* curve = m_host.ActiveCurveWindow();
     if (!curve) return;
-    const std::string title = curve->windowTitle().toStdString();
+    const std::string title = FileNameBytes(curve->windowTitle());
     QString path;
     if (IsUntitledTitle(title)) {
         path = ShowSaveAsDialog({});
         if (path.isEmpty()) return;
-        curve->setWindowTitle(QString::fromStdString(TitleAfterSave(title, path.toStdString())));
+        curve->setWindowTitle(FileNameFromBytes(TitleAfterSave(title, FileNameBytes(path))));
     } else {
-        path = QString::fromStdString(PathFromTitle(title));
+        path = FileNameFromBytes(PathFromTitle(title));
     }
     WriteCurveFile(path, curve->windowTitle());
 }
@@ -76,8 +70,7 @@ void FileCommands::SaveCurveFileAs() {
     if (!curve) return;
     const QString path = ShowSaveAsDialog({});
     if (path.isEmpty()) return;
-    const QString newTitle =
-        QString::fromStdString(TitleAfterSaveAs(curve->windowTitle().toStdString(), path.toStdString()));
+    const QString newTitle = FileNameFromBytes(TitleAfterSaveAs(FileNameBytes(curve->windowTitle()), FileNameBytes(path)));
     // Title and list follow the chosen path even if the write then fails.
     curve->setWindowTitle(newTitle);
     m_recent.AddRecentFile(path);

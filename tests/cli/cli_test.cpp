@@ -3,10 +3,14 @@
 // numbers are the core's and tested there.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 #include <string>
 #include <sys/wait.h>
@@ -16,6 +20,7 @@
 #include "cli/cli.h"
 #include "core/curve_file.h"
 #include "tests/core/sheet_builders.h"
+#include "tests/disk_faults.h"
 #include "core/curve_sheet.h"
 #include "core/curve_solver.h"
 
@@ -42,6 +47,36 @@ Result RunCli(std::vector<std::string> args) {
 int ProcessStatus(const std::string& args) {
     const int raw = std::system((std::string(GW_CLI_PATH) + " " + args + " >/dev/null 2>&1").c_str());
     return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+}
+
+// The real program run with `args`, its standard output going to `output` (created
+// when missing); `childSetUp` runs in the child before the program starts.
+Result RunProgram(const std::vector<std::string>& args, const std::string& output,
+                  const std::function<void()>& childSetUp = {}) {
+    int errPipe[2];
+    if (::pipe(errPipe) != 0) return {-1, "", "no pipe"};
+    const pid_t pid = ::fork();
+    if (pid == 0) {
+        ::close(errPipe[0]);
+        const int out = ::open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+        if (out < 0 || ::dup2(out, 1) < 0 || ::dup2(errPipe[1], 2) < 0) ::_exit(125);
+        if (childSetUp) childSetUp();
+        std::vector<std::string> all = args;
+        all.insert(all.begin(), GW_CLI_PATH);
+        std::vector<char*> argv;
+        for (std::string& a : all) argv.push_back(a.data());
+        argv.push_back(nullptr);
+        ::execv(GW_CLI_PATH, argv.data());
+        ::_exit(126);
+    }
+    ::close(errPipe[1]);
+    std::string err;
+    char buffer[4096];
+    for (ssize_t n; (n = ::read(errPipe[0], buffer, sizeof buffer)) > 0;) err.append(buffer, size_t(n));
+    ::close(errPipe[0]);
+    int raw = 0;
+    ::waitpid(pid, &raw, 0);
+    return {WIFEXITED(raw) ? WEXITSTATUS(raw) : 128 + WTERMSIG(raw), "", err};
 }
 
 std::string Example(const char* name) { return std::string(GW_EXAMPLES_DIR) + "/" + name; }
@@ -153,6 +188,8 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
         {"table", file, "--every", "0+0.001"},  // 400 ft / 0.001 ft: 400000 rows
         {"plot", file, "--csv"},
         {"check", file, "--speed", "fast"},
+        {"report", file, "--pdf", Path("none.pdf"), "--copies", "0"},  // once a 0-byte "PDF"
+        {"check", file, "--speed", "-h"},  // a value, not a call for help
     };
     for (const auto& args : bad) {
         Result r = RunCli(args);
@@ -160,12 +197,74 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
         EXPECT_NE(r.err, "");
         EXPECT_EQ(r.out, "");
     }
+    EXPECT_FALSE(std::filesystem::exists(Path("none.pdf")));
     EXPECT_NE(RunCli({"solve", Path("missing.gwf")}).err.find("No such file"), std::string::npos);
     EXPECT_EQ(RunCli({"check", file, "--speed", "81"}).err,
               "gradewise-cli: a design speed of 81 mph is outside the design table (15 to 80 mph)\n");
     EXPECT_EQ(RunCli({"table", file}).err,
               "gradewise-cli: table needs --every WHOLE+PLUS, for example --every 0+50\n"
               "Try 'gradewise-cli table --help'.\n");
+}
+
+// Output that cannot be written is an error with the system's reason and exit 2, and
+// an output file is left byte for byte as it was, with no fragment or temporary file
+// beside it: onto a full disk, past a file-size limit (once a silent death by
+// SIGXFSZ), and to standard output.
+TEST_F(CliTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
+    ::setenv("GRADEWISE_PDF", GW_PDF_PATH, 1);
+    gw::test::FullDisk disk(m_dir / "disk");
+    const std::string full = (disk.Folder() / "out").string();
+    const std::string limited = Path("limited");
+    const std::string previous = "the previous output\n";
+    for (const std::string& folder : {full, limited}) {
+        std::filesystem::create_directories(folder);
+        for (const char* name : {"table.txt", "report.pdf"}) std::ofstream(folder + "/" + name) << previous;
+    }
+    disk.Fill();
+    const std::string crest = Example("english-crest.gwf");
+    const std::function<void()> fullDisk = [&disk] { disk.WritesFailInChild(); };
+    const std::function<void()> sizeLimit = [] {
+        rlimit small{64, 64};
+        ::setrlimit(RLIMIT_FSIZE, &small);
+    };
+    const std::string noSpace = std::strerror(disk.Errno());
+    struct Case {
+        const char* name;
+        std::string folder;  // where the outputs are
+        std::vector<std::string> args;
+        std::string output;  // standard output
+        std::function<void()> setUp;
+        std::string message;
+    } cases[] = {
+        {"OverAFileOnAFullDisk", full, {"table", crest, "--every", "0+1", "-o", full + "/table.txt"}, "/dev/null",
+         fullDisk, "cannot write '" + full + "/table.txt': " + noSpace},
+        {"ANewFileOnAFullDisk", full, {"table", crest, "--every", "0+1", "-o", full + "/new.txt"}, "/dev/null",
+         fullDisk, "cannot write '" + full + "/new.txt': " + noSpace},
+        {"OverAPdfOnAFullDisk", full, {"report", crest, "--pdf", full + "/report.pdf"}, "/dev/null", fullDisk,
+         "cannot write '" + full + "/report.pdf': " + noSpace},
+        {"OverAFilePastASizeLimit", limited, {"table", crest, "--every", "0+1", "-o", limited + "/table.txt"},
+         "/dev/null", sizeLimit, "cannot write '" + limited + "/table.txt': " + std::strerror(EFBIG)},
+        {"OverAPdfPastASizeLimit", limited, {"report", crest, "--pdf", limited + "/report.pdf"}, "/dev/null",
+         sizeLimit, "cannot write '" + limited + "/report.pdf': " + std::strerror(EFBIG)},
+        {"StandardOutputToDevFull", full, {"solve", crest}, "/dev/full", {},
+         std::string("cannot write to standard output: ") + std::strerror(ENOSPC)},
+        {"StandardOutputOntoAFullDisk", full, {"table", crest, "--every", "0+1"}, full + "/stdout.txt", fullDisk,
+         "cannot write to standard output: " + noSpace},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Result r = RunProgram(c.args, c.output, c.setUp);
+        EXPECT_EQ(r.status, kUsage);
+        EXPECT_EQ(r.err, "gradewise-cli: " + c.message + "\n");
+        EXPECT_EQ(Read(c.folder + "/table.txt"), previous);
+        EXPECT_EQ(Read(c.folder + "/report.pdf"), previous);
+        std::vector<std::string> left;
+        for (const auto& entry : std::filesystem::directory_iterator(c.folder)) {
+            if (entry.path() != c.output) left.push_back(entry.path().filename());
+        }
+        std::sort(left.begin(), left.end());
+        EXPECT_EQ(left, (std::vector<std::string>{"report.pdf", "table.txt"}));
+    }
 }
 
 TEST_F(CliTest, VersionHelpAndTheProcessExitStatus) {
@@ -192,12 +291,14 @@ TEST_F(CliTest, ReportPrintsOneCopyWithLfEnds) {
     EXPECT_NE(r.out.find("\nElevation at Station: 13+50  =  101.135\n"), std::string::npos);
 }
 
-// The printed pages as a PDF: one page per copy, read back by a PDF reader.
+// The printed pages as a PDF: one page per copy, read back by a PDF reader, under
+// exactly the name given, even one that is not valid UTF-8.
 TEST_F(CliTest, ReportPdfHasOnePagePerCopy) {
     ::setenv("GRADEWISE_PDF", GW_PDF_PATH, 1);
-    const std::string pdf = Path("report.pdf");
+    const std::string pdf = Path("r\xE9sum\xE9.pdf");  // Latin-1
     Result r = RunCli({"report", Example("metric-sag.gwf"), "--pdf", pdf, "--copies", "3"});
     ASSERT_EQ(r.status, kDone) << r.err;
+    ASSERT_TRUE(std::filesystem::exists(pdf));
     auto run = [](const std::string& command) {
         std::string out;
         FILE* p = ::popen(command.c_str(), "r");
@@ -311,6 +412,33 @@ TEST_F(CliTest, PlotLabelsTheCurveAndDrawsTheRows) {
     size_t rows = 0;
     for (size_t at = 0; (at = svg.find(rowFill, at)) != std::string::npos; at += rowFill.size()) ++rows;
     EXPECT_EQ(rows, 5u + 1);
+}
+
+// Curves that pass the number checks but are beyond computing or drawing: once these
+// looped for ever or printed a made-up elevation with exit 0. Now each ends at once
+// with its reason on stderr, exit 1 and no number on stdout.
+TEST_F(CliTest, CurvesBeyondComputingEndAtOnceWithAReason) {
+    struct Case {
+        const char* name;
+        std::string file;
+        int tableStatus;
+    } cases[] = {
+        // Its two rows (PVC and PVT, 1e-12 apart) are exact to the digits shown.
+        {"LengthOf1e-12", Pvi("English", "12", "0", "104", "2", "-2", "1e-12"), kDone},
+        {"PviStationOf1e17", Pvi("English", "1000000000000000", "0", "104", "2", "-2", "400"), kRefused},
+        {"PlusPartOf1e22", Pvi("English", "12", "1e22", "104", "2", "-2", "400"), kRefused},
+        {"LengthOf1e-310", Pvi("English", "12", "0", "104", "2", "-2", "1e-310"), kRefused},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Result plot = RunCli({"plot", c.file});
+        EXPECT_EQ(plot.status, kRefused);
+        EXPECT_EQ(plot.out, "");
+        EXPECT_EQ(plot.err.rfind("gradewise-cli: ", 0), 0u) << plot.err;
+        const Result table = RunCli({"table", c.file, "--every", "0+50"});
+        EXPECT_EQ(table.status, c.tableStatus) << table.err;
+        EXPECT_EQ(table.out.empty(), c.tableStatus != kDone);
+    }
 }
 
 TEST_F(CliTest, ARefusedCurveExitsOne) {

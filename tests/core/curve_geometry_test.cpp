@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <iomanip>
+#include <random>
 
 #include "core/curve_solver.h"
+#include "core/stations.h"
 #include "sheet_builders.h"
 
 namespace gw {
@@ -69,6 +72,25 @@ TEST(CurveGeometryTest, StationTextPadsThePlusPart) {
         {1050.5, false, "10+50.5"}, {5, false, "0+05.0"}, {2050, true, "2+050.0"}, {-1010, true, "-1+010.0"},
     };
     for (const Case& c : cases) EXPECT_EQ(StationText(c.value, c.metric), c.text) << c.value;
+}
+
+// Tables write stations without the texts SplitStation goes through; the bytes must
+// be SplitStation's, whatever the value.
+TEST(CurveGeometryTest, StationTextIsSplitStationWithThePlusPadded) {
+    std::mt19937_64 rng(5);
+    std::uniform_real_distribution<double> mantissa(1.0, 10.0);
+    std::uniform_int_distribution<int> exponent(-3, 19);
+    for (int i = 0; i < 100000; ++i) {
+        const bool metric = i % 2;
+        double v = mantissa(rng) * std::pow(10.0, exponent(rng));
+        if (i % 5 == 0) v = std::round(v) - 0.00005;  // plus parts that round up to a whole station
+        if (i % 3 == 0) v = -v;
+        const StationTexts t = SplitStation(std::fabs(v), metric ? "Metric" : "English");
+        std::string plus = t.plus;
+        const size_t width = metric ? 3 : 2;
+        if (plus.find('.') < width) plus.insert(0, width - plus.find('.'), '0');
+        ASSERT_EQ(StationText(v, metric), (v < 0 ? "-" : "") + t.whole + "+" + plus) << std::setprecision(17) << v;
+    }
 }
 
 }  // namespace

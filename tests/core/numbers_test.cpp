@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <iomanip>
 #include <limits>
 #include <random>
 
@@ -105,6 +106,69 @@ TEST(PlainNumberTextTest, AgreesWithExactFifteenDigitRounding) {
                      1e15 - 0.5, 999999999999999.5}) {
         check(v);
     }
+}
+
+// The number format as the C library's exact 15-digit text gives it, rounded half
+// away from zero at the fourth decimal by hand.
+std::string FormatByTheCLibrary(double v) {
+    char exact[64];
+    std::snprintf(exact, sizeof exact, "%.14e", std::fabs(v));
+    std::string digits;
+    const char* e = exact;
+    for (; *e != 'e'; ++e) {
+        if (*e != '.') digits += *e;
+    }
+    const int exponent = std::atoi(e + 1);
+    // Digit i (0-based) stands for 10^(exponent - i); pad so that 10^-5 is present.
+    std::string fixed;  // integer digits then exactly five decimals
+    for (int q = std::max(exponent, 0); q >= -5; --q) {
+        const int i = exponent - q;
+        fixed += i >= 0 && i < static_cast<int>(digits.size()) ? digits[i] : '0';
+    }
+    const bool up = fixed.back() >= '5';
+    fixed.pop_back();
+    if (up) {
+        int i = static_cast<int>(fixed.size()) - 1;
+        while (i >= 0 && fixed[i] == '9') fixed[i--] = '0';
+        if (i < 0) {
+            fixed.insert(fixed.begin(), '1');
+        } else {
+            ++fixed[i];
+        }
+    }
+    std::string integer = fixed.substr(0, fixed.size() - 4), decimals = fixed.substr(fixed.size() - 4);
+    while (integer.size() > 1 && integer[0] == '0') integer.erase(0, 1);
+    while (decimals.size() > 1 && decimals.back() == '0') decimals.pop_back();
+    const bool zero = integer == "0" && decimals == "0";
+    return (v < 0 && !zero ? "-" : "") + integer + "." + decimals;
+}
+
+// Most values take a direct path that skips the 15-digit text; it must agree with the
+// exact text everywhere, above all next to the halves of the fourth decimal.
+TEST(FormatNumberTest, AgreesWithTheCLibraryOnRandomValuesAndNearHalves) {
+    std::mt19937_64 rng(13);
+    std::uniform_real_distribution<double> mantissa(1.0, 10.0);
+    std::uniform_int_distribution<int> exponent(-9, 8);
+    std::uniform_int_distribution<long long> tenThousandths(0, 9999999999LL);
+    std::uniform_int_distribution<int> ulps(-40, 40);
+    std::uniform_real_distribution<double> margin(-3e-4, 3e-4);
+    for (int i = 0; i < 200000; ++i) {
+        double v = mantissa(rng) * std::pow(10.0, exponent(rng));
+        if (i % 3 == 1) {
+            // A half of the fourth decimal, moved by a few units in the last place.
+            v = (static_cast<double>(tenThousandths(rng)) + 0.5) / 1e4;
+            for (int k = ulps(rng); k != 0; k += k > 0 ? -1 : 1) v = std::nextafter(v, k > 0 ? 1e300 : 0.0);
+        } else if (i % 3 == 2) {
+            // Just outside and inside the margin the direct path keeps from a half.
+            v = (static_cast<double>(tenThousandths(rng)) + 0.5 + margin(rng)) / 1e4;
+        }
+        ASSERT_EQ(FormatNumber(v), FormatByTheCLibrary(v)) << std::setprecision(17) << v;
+        ASSERT_EQ(FormatNumber(-v), FormatByTheCLibrary(-v)) << std::setprecision(17) << -v;
+    }
+    std::string appended = "x";
+    AppendNumber(appended, 2.00005);
+    AppendNumber(appended, std::nan(""));
+    EXPECT_EQ(appended, "x2.0001");
 }
 
 // Short plain decimals take a fast path; it must read exactly what strtod reads.

@@ -2,6 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <set>
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include "temp_folder.h"
 
 namespace gw {
@@ -58,6 +63,41 @@ TEST_F(RecentFilesTest, AHandEditedSectionShowsAtMostSixEntries) {
     recent.UpdateRecentFileMenu();
     EXPECT_EQ(Shown().size(), 6u);
     EXPECT_EQ(Shown().back(), "/6");
+}
+
+// Two running copies of the program, each adding a file at the same moment, round
+// after round: each must find the other's file still listed afterwards.
+TEST_F(RecentFilesTest, TwoCopiesAddingAtOnceKeepBothFiles) {
+    for (int round = 0; round < 200; ++round) {
+        const std::string mine = "/first/" + std::to_string(round), theirs = "/second/" + std::to_string(round);
+        int go[2];
+        ASSERT_EQ(::pipe(go), 0);
+        std::vector<pid_t> copies;
+        for (const std::string& path : {mine, theirs}) {
+            const pid_t pid = ::fork();
+            ASSERT_GE(pid, 0);
+            if (pid == 0) {
+                char start;
+                ::close(go[1]);
+                (void)!::read(go[0], &start, 1);  // both start together
+                SettingsStore own(store.FilePath());
+                RecentFiles(own).AddRecentFile(path);
+                ::_exit(0);
+            }
+            copies.push_back(pid);
+        }
+        ::close(go[0]);
+        ::close(go[1]);  // the end of the pipe starts both
+        for (pid_t pid : copies) {
+            int status = 0;
+            ::waitpid(pid, &status, 0);
+            ASSERT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
+        }
+        const V stored = Stored();
+        ASSERT_GE(stored.size(), 2u);
+        EXPECT_EQ(std::set<std::string>(stored.begin(), stored.begin() + 2), (std::set<std::string>{mine, theirs}))
+            << "round " << round;
+    }
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include <sys/sysmacros.h>
 
 #include "ui_fixture.h"
+#include "tests/disk_faults.h"
 #include "tests/qt_test_printers.h"
 
 namespace gw::test {
@@ -86,6 +87,38 @@ TEST_F(SaveFaultTest, AFolderDeletedAfterOpeningIsReportedAndNothingIsLost) {
     EXPECT_TRUE(Changed(*w));
     EXPECT_EQ(w->Field("txtLC")->text(), "250");
     ExpectSavingStillWorks(*w);
+}
+
+// A folder that takes no temporary file (read-only, the file in it writable) gets the
+// file rewritten in place, but only once the room for it is reserved: writes that
+// fail (here past a file-size limit, as on a full disk) fail before the old content
+// is touched. Once this left a fragment of the new text.
+TEST_F(SaveFaultTest, AFolderThatTakesNoNewFileIsRewrittenOnlyWhenTheRoomIsThere) {
+    ASSERT_TRUE(QDir().mkpath(FilePath("locked")));
+    ASSERT_EQ(::chmod(QFile::encodeName(FilePath("")).constData(), 0755), 0);  // "nobody" may look in
+    const QString path = FilePath("locked/curve.gwf");
+    PutBytes(path, EmptyCurveBytes("Metric"));
+    frmCrestCurve* w = Open(path);
+    ASSERT_NE(w, nullptr);
+    TypeInto(w->Field("txtLC"), "400");
+    m_platform.AnswerMessage(MessageButton::Ok);
+    const std::string folder = QFile::encodeName(FilePath("locked")).toStdString();
+    const std::string file = QFile::encodeName(path).toStdString();
+    {
+        ReadOnlyFolder readOnly(folder, file);
+        FullDisk::Limit full(true);
+        Save();
+    }
+    ExpectOneExclamation(QString::fromLocal8Bit(std::strerror(EFBIG)));
+    EXPECT_EQ(Bytes(path), EmptyCurveBytes("Metric"));
+    EXPECT_TRUE(Changed(*w));
+    {
+        ReadOnlyFolder readOnly(folder, file);
+        Save();
+    }
+    EXPECT_TRUE(Bytes(path).contains("\"400\""));
+    EXPECT_FALSE(Changed(*w));
+    EXPECT_EQ(QDir(FilePath("locked")).entryList(QDir::Files | QDir::Hidden), QStringList{"curve.gwf"});
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "core/titles.h"
 #include "curve_saver.h"
 #include "curve_window.h"
+#include "platform/file_names.h"
 #include "platform/platform.h"
 #include "window_slots.h"
 
@@ -22,10 +23,10 @@ void frmCrestCurve::Form_QueryUnload(bool& cancel) {
         if (QMdiArea* area = sub->mdiArea(); area && area->activeSubWindow() != sub) area->setActiveSubWindow(sub);
     }
 
-    const std::string title = windowTitle().toStdString();
+    const std::string title = FileNameBytes(windowTitle());
     MessageRequest question;
     question.title = QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size()));
-    question.text = QString::fromStdString(CloseQuestion(CurveNameFromTitle(title)));
+    question.text = FileNameFromBytes(CloseQuestion(CurveNameFromTitle(title)));
     question.buttons = MessageButtons::YesNoCancel;
     question.defaultButton = MessageButton::Yes;
     question.icon = MessageIcon::Exclamation;
@@ -40,9 +41,9 @@ void frmCrestCurve::Form_QueryUnload(bool& cancel) {
     QString path;
     if (IsUntitledTitle(title)) {
         path = saver->ShowSaveAsDialog(QStringLiteral("untitled"));
-        if (!path.isEmpty()) setWindowTitle(QString::fromStdString(TitleAfterSave(title, path.toStdString())));
+        if (!path.isEmpty()) setWindowTitle(FileNameFromBytes(TitleAfterSave(title, FileNameBytes(path))));
     } else {
-        path = QString::fromStdString(PathFromTitle(title));
+        path = FileNameFromBytes(PathFromTitle(title));
     }
     // The cancel flag is left alone: after a cancelled dialog or a failed write the
     // curve closes unsaved, and the user has been told of a failure by its box.

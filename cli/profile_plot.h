@@ -1,0 +1,16 @@
+#pragma once
+// A whole profile drawn as SVG: tangents and curves to scale, every PVC, PVI, PVT
+// and high or low point marked and labelled.
+
+#include <string>
+#include <string_view>
+
+#include "core/profile.h"
+
+namespace gw::cli {
+
+// The drawing widens with the number of labels so that none overlaps another; each
+// label stands above the plot on a leader line from its point.
+std::string ProfilePlotSvg(const Profile& profile, std::string_view title);
+
+}  // namespace gw::cli
