@@ -43,11 +43,9 @@ shoot "$MAIN" docs/screenshot.png
 new_curve English
 type_and_solve 12 0 104 2 -2 400
 keys Tab Tab Tab space
-elevations=$(wait_window '^Elevations$')
-sleep 0.3
+elevations=$(wait_dialog '^Elevations$')
 click_in "$elevations" 120 372  # AutoStationing
-auto=$(wait_window '^Auto Stationing$')
-sleep 0.3
+auto=$(wait_dialog '^Auto Stationing$')
 click_in "$auto" 116 204  # OK
 wait_gone "$auto" "the auto-stationing dialog"
 sleep 0.5

@@ -11,7 +11,7 @@ for way in ok-button enter escape close-box; do
   keys alt+h
   sleep 0.2
   keys a
-  about=$(wait_window '^About Gradewise$')
+  about=$(wait_dialog '^About Gradewise$')
   expect_no_min_max "$about" "the about box"
   case $way in
     ok-button) click_in "$about" 298 227 ;;  # OK at 3840, 3240 twips, 1260 x 345
@@ -20,9 +20,8 @@ for way in ok-button enter escape close-box; do
     close-box) keys alt+F4 ;;  # the window manager's close command
   esac
   wait_gone "$about" "the about box closed by $way"
-  sleep 0.3
   alive "after the about box closed by $way"
-  xdotool windowactivate --sync "$MAIN" 2>/dev/null || true
+  wait_active "$MAIN" "the main window after the about box"
 done
 
 exit_gradewise

@@ -81,6 +81,19 @@ wait_window() {
   fail "no window \"$pattern\" appeared"
 }
 
+# Waits until the window has the keyboard, so that keys sent next reach it.
+wait_active() {
+  poll 10 sh -c "[ \"\$(xdotool getactivewindow 2>/dev/null)\" = $1 ]" || fail "$2 never became active"
+}
+
+# wait_window, then wait_active: a dialog ready for keys.
+wait_dialog() {
+  local id
+  id=$(wait_window "$@")
+  wait_active "$id" "the window \"$1\""
+  echo "$id"
+}
+
 is_viewable() { xwininfo -id "$1" 2>/dev/null | grep -q 'Map State: IsViewable'; }
 wait_gone() { poll 10 sh -c "! xwininfo -id $1 2>/dev/null | grep -q 'Map State: IsViewable'" || fail "$2 stayed open"; }
 
@@ -131,8 +144,12 @@ start_gradewise() {
   APP_PID=$!
   MAIN=$(wait_window '^Gradewise$')
   xdotool windowactivate --sync "$MAIN" 2>/dev/null || true
-  poll 10 sh -c "[ \"\$(xdotool getactivewindow 2>/dev/null)\" = $MAIN ]" || fail "the main window never became active"
+  wait_active "$MAIN" "the main window"
 }
+
+# Waits until a curve file named on the command line has been opened: opening lists
+# it among the recent files in the settings.
+wait_opened() { poll 10 grep -q "^RecentFile1=$1\$" "$SETTINGS" || fail "$1 was not opened"; }
 
 # Waits for gradewise to end; its exit status as STATUS.
 wait_ended() {
@@ -169,7 +186,7 @@ new_curve() {
   keys alt+o
   sleep 0.2
   keys c v
-  UNITS=$(wait_window '^Measurement Info$' $before)
+  UNITS=$(wait_dialog '^Measurement Info$' $before)
   case ${1:-} in
     English) keys Down ;;
     Metric) keys Up ;;

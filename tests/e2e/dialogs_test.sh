@@ -19,7 +19,7 @@ minimise_comes_back() {
 keys alt+o
 sleep 0.2
 keys c v
-units=$(wait_window '^Measurement Info$')
+units=$(wait_dialog '^Measurement Info$')
 expect_no_min_max "$units" "the units dialog"
 ((MWM_FUNCTIONS & 0x20)) && fail "the units dialog offers a close command"
 minimise_comes_back "$units" "the units dialog"
@@ -36,7 +36,7 @@ sleep 1
 # A message box: Enter on an empty sheet reports its first missing input.
 new_curve Metric
 keys Return
-box=$(wait_window '^Gradewise$' "$MAIN")
+box=$(wait_dialog '^Gradewise$' "$MAIN")
 expect_no_min_max "$box" "a message box"
 minimise_comes_back "$box" "a message box"
 keys Return

@@ -12,12 +12,12 @@ plus_part() { head -1 "$1" | tr -d '\r' | awk -F, '{print $6}'; }
 [ "$(plus_part "$WORK/crest.gwf")" = '"0"' ] || fail "the example's PVI plus part is $(plus_part "$WORK/crest.gwf")"
 
 start_gradewise "$WORK/crest.gwf"
-sleep 0.5
+wait_opened "$WORK/crest.gwf"
 # The opened window has the focus in its first input, the PVI station (12).
 keys ctrl+a ctrl+c Tab ctrl+a ctrl+v
 sleep 0.2
 exit_gradewise
-question=$(wait_window '^Gradewise$' "$MAIN")
+question=$(wait_dialog '^Gradewise$' "$MAIN")
 keys Return  # Yes
 wait_gone "$question" "the close question"
 wait_ended "Exit after Yes"

@@ -9,12 +9,11 @@ example=$3
 start_desktop
 cp "$example" "$WORK/crest.gwf"  # English, PVC 10+00, PVT 14+00, five rows from 10+50
 start_gradewise "$WORK/crest.gwf"
-sleep 0.5
+wait_opened "$WORK/crest.gwf"
 
 # Calculate Elevations: from the first input past the other five and Calc, Clear All.
 keys Tab Tab Tab Tab Tab Tab Tab Tab space
-ELEVATIONS=$(wait_window '^Elevations$')
-sleep 0.3
+ELEVATIONS=$(wait_dialog '^Elevations$')
 OK_BUTTON="432 360" AUTO_BUTTON="80 360"  # their top left corners; a click lands 10 px in
 
 # Replaces the focused field's text with $1 and clicks the button at once; then
@@ -28,7 +27,7 @@ type_then_click() {
   type_text "$text"
   xdotool click 1
   for ((i = 1; i <= boxes; i++)); do
-    box=$(wait_window '^Gradewise$' "$MAIN")
+    box=$(wait_dialog '^Gradewise$' "$MAIN")
     is_viewable "$ELEVATIONS" || fail "the click on $button hid the elevations window (\"$text\")"
     [ -z "$(windows_named '^Auto Stationing$')" ] || fail "AutoStationing opened over \"$text\""
     keys Return

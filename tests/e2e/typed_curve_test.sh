@@ -27,8 +27,7 @@ save_as() {
   sleep 0.2
   keys a
   local dialog
-  dialog=$(wait_window '.' $dialogs)
-  sleep 0.3
+  dialog=$(wait_dialog '.' $dialogs)
   type_text "$1"
   keys Return
   poll 10 test -s "$1" || fail "Save As wrote no $1"
