@@ -33,6 +33,8 @@ stop_all() {
   rm -rf "$WORK"
 }
 trap stop_all EXIT
+# Stopped from outside (a test time-out, Ctrl+C): leave nothing running.
+trap 'exit 143' TERM INT HUP
 
 # Also from inside $(...), whose output is taken.
 fail() {
@@ -57,10 +59,10 @@ start_desktop() {
   XVFB_PID=$!
   poll 10 test -s "$WORK/display" || fail "Xvfb did not start"
   export DISPLAY=:$(cat "$WORK/display")
-  openbox --sm-disable >/dev/null 2>&1 &
+  openbox --sm-disable >"$WORK/openbox.log" 2>&1 &
   WM_PID=$!
   poll 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "window id"' ||
-    fail "openbox did not start"
+    fail "openbox did not start on $DISPLAY: $(cat "$WORK/openbox.log")"
 }
 
 # Visible windows whose title matches the pattern, oldest first.
