@@ -54,11 +54,35 @@ poll() {
   return 1
 }
 
-start_desktop() {
-  Xvfb -displayfd 3 -screen 0 1280x800x24 -nolisten tcp 3>"$WORK/display" >/dev/null 2>&1 &
+# One try at an X server of our own on a display picked at random: a display that
+# another test has just let go of may still be shutting down, so the lowest free
+# number is the one to avoid. True once the server is ours and takes connections.
+try_display() {
+  local number=$((100 + RANDOM % 800))
+  [ -e "/tmp/.X$number-lock" ] && return 1
+  # -noreset: a server resets when its last client leaves, and refuses connections
+  # while it does; the probes below are such clients.
+  Xvfb ":$number" -screen 0 1280x800x24 -nolisten tcp -noreset >"$WORK/xvfb.log" 2>&1 &
   XVFB_PID=$!
-  poll 10 test -s "$WORK/display" || fail "Xvfb did not start"
-  export DISPLAY=:$(cat "$WORK/display")
+  export DISPLAY=:$number
+  local tries=100
+  while ((tries-- > 0)) && kill -0 "$XVFB_PID" 2>/dev/null; do
+    if [ "$(cat "/tmp/.X$number-lock" 2>/dev/null | tr -d ' \n')" = "$XVFB_PID" ] && xprop -root >/dev/null 2>&1; then
+      return 0
+    fi
+    sleep 0.05
+  done
+  kill "$XVFB_PID" 2>/dev/null || true
+  wait "$XVFB_PID" 2>/dev/null || true
+  XVFB_PID=""
+  return 1
+}
+
+start_desktop() {
+  local tries=5
+  until try_display; do
+    ((--tries > 0)) || fail "Xvfb did not start: $(cat "$WORK/xvfb.log")"
+  done
   openbox --sm-disable >"$WORK/openbox.log" 2>&1 &
   WM_PID=$!
   poll 10 sh -c 'xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q "window id"' ||
