@@ -16,6 +16,7 @@
 #include "ui/common/field_style.h"
 #include "ui/common/leave_checks.h"
 #include "ui/common/typing_limit.h"
+#include "ui/common/user_edits.h"
 #include "ui/elevations/elevations_window.h"
 #include "window_slots.h"
 
@@ -84,8 +85,7 @@ void frmCrestCurve::BuildControls() {
         if (place.name.size() > 3 && place.name.substr(place.name.size() - 3) == "STA") {
             SetTypingLimit(*field, curve_layout::kWholeStationLimit);
         }
-        // A paste, a cut or a delete changes the curve as much as a typed key.
-        connect(field, &QLineEdit::textEdited, this, [this] { m_slots.State(m_slot).changed = true; });
+        OnUserEdit(*field, [this] { m_slots.State(m_slot).changed = true; });
     }
 
     auto label = [this](const char* name, const QString& text, const QRect& rect) {

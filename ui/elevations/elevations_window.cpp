@@ -14,6 +14,7 @@
 #include "ui/common/leave_checks.h"
 #include "ui/common/on_screen.h"
 #include "ui/common/typing_limit.h"
+#include "ui/common/user_edits.h"
 #include "ui/elevations/auto_station_dialog.h"
 #include "ui/elevations/elevations_slot.h"
 #include "ui/elevations/elevations_texts.h"
@@ -52,8 +53,7 @@ QLineEdit* ElevationsWindow::AddField(const char* name, int left, int top, int w
     field->setAccessibleName(name);
     field->setGeometry(left, top, width, kFieldHeight);
     field->installEventFilter(this);
-    // A paste, a cut or a delete changes the curve as much as a typed key.
-    connect(field, &QLineEdit::textEdited, this, [this] { m_slot.MarkChanged(); });
+    OnUserEdit(*field, [this] { m_slot.MarkChanged(); });
     return field;
 }
 
