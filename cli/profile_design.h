@@ -9,9 +9,6 @@
 
 namespace gw::cli {
 
-// No length meets the design condition; the answer says why.
-inline constexpr int kNoSolution = 5;
-
 struct DesignRequest {
     size_t pvi = 0;  // the PVI's number, from 1
     std::optional<double> k;
@@ -25,6 +22,9 @@ struct DesignRequest {
         double station = 0, underside = 0, clearance = 0;
     };
     std::optional<Structure> structure;
+    // The profile's tangents run on past its first and last PVI, as a curve file's
+    // do: a longer curve moves them out instead of being refused.
+    bool openEnds = false;
 };
 
 // Exactly one of k, through and structure is given. Writes the working and the

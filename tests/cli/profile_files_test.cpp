@@ -1,6 +1,5 @@
 // Profiles in and out: LandXML and CSV readers with the line or element of every
-// refusal, LandXML written valid against the schema, and curves that come back from
-// LandXML as the curve files they were.
+// refusal, and LandXML written valid against the schema.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -77,32 +76,6 @@ TEST(ProfileFilesTest, ExportsOfEveryKindOfCurveAreValidLandXmlInBothUnits) {
             EXPECT_EQ(b.curve->lengthOut(), a.curve->lengthOut()) << i;
         }
     }
-}
-
-TEST(ProfileFilesTest, EveryBundledExampleComesBackAsTheSameCurveFile) {
-    test::TempFolder folder;
-    int examples = 0;
-    for (const auto& entry : std::filesystem::directory_iterator(GW_EXAMPLES_DIR)) {
-        if (entry.path().extension() != ".gwf") continue;
-        ++examples;
-        const std::string path = entry.path().string();
-        // What solving it with its elevations gives.
-        CurveSheet solved = LoadStoredCurve(ParseCurveFile(Read(path)), "Metric");
-        ASSERT_FALSE(Calculate(solved));
-        ASSERT_FALSE(ActivateElevations(solved));
-
-        const ProfileSource s = ReadProfileSource(path, Read(path), std::nullopt);
-        ASSERT_TRUE(s.profile) << s.error;
-        const std::string xml = ExportLandXml(s.document, *s.profile);
-        EXPECT_EQ(SchemaErrors(folder, xml), "") << path;
-        const ProfileSource back = Source("back.xml", xml);
-        ASSERT_TRUE(back.profile) << back.error;
-        std::string bytes;
-        std::ostringstream err;
-        EXPECT_EQ(ImportCurve(back.document, *back.profile, 2, bytes, err), 0) << err.str();
-        EXPECT_EQ(bytes, CurveFileBytes(solved)) << path;
-    }
-    EXPECT_GE(examples, 2);
 }
 
 TEST(ProfileFilesTest, ForeignLandXmlWithPrefixesAndBareBreaksIsRead) {
