@@ -187,10 +187,10 @@ std::vector<CommandSpec> Rows() {
           {"--clearance", "C", "the vertical clearance the road needs under it"},
           kProfileName,
           kOutput},
-         "Exit status: 0 a length found; 5 none meets the condition (the working says why);\n"
-         "1 the file's content is refused, or the length found does not fit between the\n"
-         "neighbouring curves (the working is still written); 2 bad arguments, a PVI at an\n"
-         "end, an unreadable file or an output that could not be written.",
+         "Exit status: 0 a length found; 5 none meets the condition, or the one found does\n"
+         "not fit between the neighbouring curves (the working says why); 1 the file's\n"
+         "content is refused (the message on stderr); 2 bad arguments, a PVI at an end, an\n"
+         "unreadable file or an output that could not be written.",
          "-o", RunDesign},
         {"export", "export FILE --landxml OUT.xml [--profile NAME]", kAnyFile,
          "write the profile as LandXML 1.2",

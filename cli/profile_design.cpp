@@ -43,8 +43,8 @@ void Roots(const ControlPointDesign& d, const std::string& unit, bool metric, do
     out << "\n";
 }
 
-// Whether the profile takes a curve of this length at the PVI: 0, or 1 with the
-// refusal. With open ends, a first or last PVI in the curve's way moves out along its
+// Whether the profile takes a curve of this length at the PVI: 0, or 5 with the
+// refusal: a length that cannot be built is no solution. With open ends, a first or last PVI in the curve's way moves out along its
 // tangent, as the tangents of a single curve run on.
 int Fits(const ProfileDocument& document, size_t index, double length, bool openEnds, std::ostream& out) {
     ProfileInput input = document.input;
@@ -67,7 +67,7 @@ int Fits(const ProfileDocument& document, size_t index, double length, bool open
     const ProfileOutcome built = BuildProfile(input);
     if (!built.profile) {
         out << "The profile refuses this length: " << ToUtf8(built.error) << "\n";
-        return kRefused;
+        return kNoSolution;
     }
     const VerticalCurve& c = *built.profile->pvis()[index].curve;
     out << (openEnds ? "The curve: PVC " : "It fits between its neighbours: PVC ")

@@ -29,8 +29,8 @@ struct DesignRequest {
 
 // Exactly one of k, through and structure is given. Writes the working and the
 // length, and whether the profile takes a curve of that length at the PVI. Returns
-// 0 with a length, 5 when none exists, 1 when the profile refuses the length (the
-// curves would overlap), 2 when the PVI is not one between the ends.
+// 0 with a length; 5 when none exists or the profile refuses the one found (the
+// curves would overlap); 2 when the PVI is not one between the ends.
 int ProfileDesignReport(const ProfileDocument& document, const Profile& profile, const DesignRequest& request,
                         std::ostream& out, std::ostream& err);
 

@@ -4,8 +4,8 @@
 //   - the exit status is one of the documented ones, with a message for a refusal;
 //   - no number printed is "nan", "inf" or in exponent form, and no drawing has a
 //     coordinate left empty;
-//   - the output is bounded: at most 100000 table rows, a drawing of a few hundred
-//     KiB, a check of a few lines ending in its verdict (tables of 2000 to 100000
+//   - the output is bounded: at most 1,000,000 table rows, a drawing of a few hundred
+//     KiB, a check of a curve ending in its verdict (tables of 2000 to 1,000,000
 //     rows are left out for speed: see LongTable);
 //   - table rows run in station order.
 #include <cstdint>
@@ -66,8 +66,8 @@ void PutCurveFile(const std::string& bytes) {
 }
 
 // Tables of thousands of rows take the path of short ones row after row and would
-// cost the fuzzer most of its time: those between 2000 rows and the 100000-row limit
-// are left out (the limit itself, and what lies beyond it, are still run).
+// cost the fuzzer most of its time: those between 2000 rows and the 1,000,000-row
+// limit are left out (the limit itself, and what lies beyond it, are still run).
 bool LongTable(const gw::CurveSheet& sheet, const std::string& every) {
     gw::CurveSheet solved = sheet;
     if (gw::Calculate(solved)) return false;
@@ -75,7 +75,7 @@ bool LongTable(const gw::CurveSheet& sheet, const std::string& every) {
     if (at == std::string::npos) return false;
     const double rows = gw::ReadNumber(solved.txtLC) /
                         gw::JoinStation(every.substr(0, at), every.substr(at + 1), solved.lblMorF);
-    return rows > 2000 && rows <= 100000;
+    return rows > 2000 && rows <= 1000000;
 }
 
 }  // namespace
@@ -134,14 +134,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     if (HasExponent(out)) Fail("a number in exponent form", command, out, err);
     if (kind == 3) {
-        if (Lines(out) > 8) Fail("an unbounded check", command, out, err);
+        if (Lines(out) > 16) Fail("an unbounded check", command, out, err);
         const std::string last = out.substr(out.rfind('\n', out.size() - 2) + 1);
-        const bool verdict = last.rfind("Long enough: ", 0) == 0 || last.rfind("Too short: ", 0) == 0 ||
-                             last.rfind("Equal grades: ", 0) == 0;
+        const bool verdict = last.rfind("Long enough: ", 0) == 0 || last.rfind("Too short: ", 0) == 0;
         if (!out.empty() && !verdict) Fail("a check without its verdict", command, out, err);
         return 0;
     }
-    if (Lines(out) > 100000 + 3) Fail("an unbounded table", command, out, err);
+    if (Lines(out) > 1000000 + 3) Fail("an unbounded table", command, out, err);
     if (kind == 1 && !out.empty()) {
         // Distance from the PVC, the second column, never goes back.
         std::istringstream rows(out);

@@ -260,14 +260,14 @@ TEST_F(ProfileCommandsTest, DesignStatuses) {
     } cases[] = {
         // PVI 41+00 at 1262, -2.50 / +3.00, through 1268.00 at 42+50: 687.22 ft, which
         // overlaps the next curve.
-        {"through a point", {"--through", "42+50", "1268"}, kRefused,
+        {"through a point", {"--through", "42+50", "1268"}, kNoSolution,
          "The profile refuses this length: The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the first ends "
          "at 44+43.6096, after the second begins at 44+00.0."},
         // The same point on the finished surface, 0.5 above the profile and 12 ft out on
         // a -2 % cross slope: 1268 + 0.5 - 0.24.
         {"through a point with offsets", {"--through", "42+50", "1268.26", "--voffset", "0.5", "--hoffset", "12",
                                           "--xslope", "-2"},
-         kRefused, "The profile refuses this length: The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the "
+         kNoSolution, "The profile refuses this length: The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the "
                    "first ends at 44+43.6096, after the second begins at 44+00.0."},
         {"no solution", {"--through", "42+50", "1250"}, kNoSolution,
          "No solution: no symmetric curve at this PVI passes through 42+50.0 at 1250.0."},
