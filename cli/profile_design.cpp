@@ -36,9 +36,14 @@ void Roots(const ControlPointDesign& d, const std::string& unit, bool metric, do
     }
     out << "  roots:";
     for (size_t i = 0; i < d.roots.size(); ++i) {
-        out << (i ? "," : "") << " " << FormatNumber(d.roots[i].length) << unit
-            << (d.roots[i].valid ? " (reaches " : " (does not reach ") << StationText(station, metric)
-            << (d.roots[i].valid ? ")" : ": a curve must be at least " + FormatNumber(d.reach) + unit + " long)");
+        const Root& r = d.roots[i];
+        out << (i ? "," : "") << " " << FormatNumber(r.length) << unit;
+        if (!(r.length > 0)) {
+            out << " (no curve)";
+        } else {
+            out << (r.valid ? " (reaches " : " (does not reach ") << StationText(station, metric)
+                << (r.valid ? ")" : ": a curve must be at least " + FormatNumber(d.reach) + unit + " long)");
+        }
     }
     out << "\n";
 }
