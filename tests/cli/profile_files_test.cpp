@@ -124,6 +124,14 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
          "ParaCurve on line 7 has no length."},
         {"two profiles", LandXml(kFeet, two),
          "The file has 2 profiles (ProfAlign 'one', 'two'); choose one by its name."},
+        {"extras for no PVI",
+         LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
+                        "<Property label=\"pvi\" value=\"1e300\"/></Feature></ProfAlign>"),
+         "Feature on line 7: its pvi '1e300' is not the number of a PVI."},
+        {"extras past the end",
+         LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
+                        "<Property label=\"pvi\" value=\"3\"/></Feature></ProfAlign>"),
+         "Feature on line 7: its pvi 3 is past the last PVI of the profile, PVI 2."},
         {"doubles back",
          LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<PVI>500 2</PVI>\n<PVI>400 2</PVI></ProfAlign>"),
          "PVI 3 (PVI on line 8) at 4+00.0 is not past PVI 2 (PVI on line 7) at 5+00.0: stations must increase "
