@@ -11,57 +11,21 @@
 // left out for speed.
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <string_view>
-#include <sys/mman.h>
-#include <unistd.h>
 #include <vector>
 
-#include "cli/cli.h"
 #include "cli/profile_source.h"
 #include "cli/station_input.h"
 #include "cli/svg_writer.h"
 #include "core/curve_file.h"
 #include "core/numbers.h"
+#include "fuzz/command_runs.h"
 #include "fuzz/fuzz_texts.h"
 #include "fuzz/json_check.h"
 
 namespace {
-
-[[noreturn]] void Fail(const char* what, const std::string& command, const std::string& file, const std::string& out,
-                       const std::string& err) {
-    std::fprintf(stderr, "%s\ncommand: %s\nfile:\n%s\nstdout (first 2000 bytes):\n%.2000s\nstderr:\n%s\n", what,
-                 command.c_str(), file.c_str(), out.c_str(), err.c_str());
-    std::abort();
-}
-
-bool HasExponent(const std::string& text) {
-    for (size_t i = 1; i + 2 < text.size(); ++i) {
-        const bool digitBefore = text[i - 1] >= '0' && text[i - 1] <= '9';
-        const bool sign = text[i + 1] == '+' || text[i + 1] == '-';
-        const bool digitAfter = text[i + 2] >= '0' && text[i + 2] <= '9';
-        if ((text[i] == 'e' || text[i] == 'E') && digitBefore && sign && digitAfter) return true;
-    }
-    return false;
-}
-
-// The profile lives in memory; the commands read it by name like any file.
-const std::string& ProfileFileName() {
-    static const std::string name = [] {
-        const int fd = ::memfd_create("profile", 0);
-        if (fd < 0) std::abort();
-        return "/proc/self/fd/" + std::to_string(fd);
-    }();
-    return name;
-}
-
-void PutProfile(const std::string& bytes) {
-    const int fd = std::stoi(ProfileFileName().substr(ProfileFileName().rfind('/') + 1));
-    if (::ftruncate(fd, 0) != 0 || ::pwrite(fd, bytes.data(), bytes.size(), 0) != ssize_t(bytes.size())) std::abort();
-}
 
 // Four texts a PVI: station, elevation and two for its curve, L1 and L2. As CSV, L1
 // alone is a Length, L2 alone a K, both an unsymmetrical curve; as LandXML, no L1 is a
@@ -106,7 +70,7 @@ double StationValue(const std::string& text, bool metric) {
 
 // A table between 2000 rows and the limit: left out for speed.
 bool LongTable(const std::string& file, const std::string& every) {
-    const gw::cli::ProfileSource s = gw::cli::ReadProfileSource(ProfileFileName(), file, std::nullopt);
+    const gw::cli::ProfileSource s = gw::cli::ReadProfileSource("profile", file, std::nullopt);
     if (!s.profile) return false;
     const gw::cli::StationReading interval = gw::cli::ReadStation(every, s.profile->metric());
     if (!interval.value || !(*interval.value > 0)) return false;
@@ -124,30 +88,32 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     // The command's four argument texts first, then the profile.
     texts.resize(std::max<size_t>(texts.size(), 4));
     const std::vector<std::string> argument(texts.begin(), texts.begin() + 4);
-    const std::string file = ProfileText(flags & 1, flags & 2, std::vector<std::string>(texts.begin() + 4, texts.end()));
-    PutProfile(file);
+    static gw::fuzz::MemoryFile memory;
+    memory.Put(ProfileText(flags & 1, flags & 2, std::vector<std::string>(texts.begin() + 4, texts.end())));
+    const std::string& file = memory.Bytes();
+    const std::string& path = memory.Path();
 
-    std::vector<std::string> args = {"gradewise-cli"};
+    std::vector<std::string> args;
     const auto add = [&](std::initializer_list<std::string> words) { args.insert(args.end(), words); };
     switch (command) {
-        case 0: add({"profile", ProfileFileName()}); break;
-        case 1: add({"profile", ProfileFileName(), "--json"}); break;
+        case 0: add({"profile", path}); break;
+        case 1: add({"profile", path, "--json"}); break;
         case 2:
         case 3:
             if (LongTable(file, argument[0])) return 0;
-            add({"table", ProfileFileName(), "--every", argument[0]});
+            add({"table", path, "--every", argument[0]});
             if (command == 3) add({"--csv"});
             break;
-        case 4: add({"plot", ProfileFileName()}); break;
+        case 4: add({"plot", path}); break;
         case 5:
-            add({"check", ProfileFileName(), "--speed", argument[0]});
+            add({"check", path, "--speed", argument[0]});
             if (flags & 4) add({"--passing"});
             if (flags & 8) add({"--clearance", argument[1]});
             if (flags & 16) add({"--object", argument[2]});
             if (flags & 32) add({"--headlight", argument[3]});
             break;
         case 6:
-            add({"design", ProfileFileName(), "--pvi", argument[0]});
+            add({"design", path, "--pvi", argument[0]});
             if (flags & 4) {
                 add({"--k", argument[1]});
             } else if (flags & 8) {
@@ -157,42 +123,39 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
                 add({"--under", argument[1], "--underside", argument[2], "--clearance", argument[3]});
             }
             break;
-        case 7: add({"export", ProfileFileName(), "--landxml", "/dev/null"}); break;
-        default: add({"import", ProfileFileName(), "--curve", argument[0]}); break;
+        case 7: add({"export", path, "--landxml", "/dev/null"}); break;
+        default: add({"import", path, "--curve", argument[0]}); break;
     }
-    std::string line;
-    for (const std::string& a : args) line += a + " ";
-    std::vector<char*> argv;
-    for (std::string& a : args) argv.push_back(a.data());
-    std::ostringstream outStream, errStream;
-    const int status = gw::cli::Run(static_cast<int>(argv.size()), argv.data(), outStream, errStream);
-    const std::string out = outStream.str(), err = errStream.str();
+    const gw::fuzz::CommandRun run = gw::fuzz::RunCommand(args);
+    const int status = run.status;
+    const std::string &out = run.out, &err = run.err;
+    const auto Fail = [&](const char* what) { gw::fuzz::Fail(what, run, memory); };
 
-    if (status < 0 || status > 5) Fail("an exit status nobody documented", line, file, out, err);
-    if ((status == 1 || status == 2) && err.empty()) Fail("a refusal without a message", line, file, out, err);
-    if ((status == 1 || status == 2) && !out.empty()) Fail("output on a refusal", line, file, out, err);
+    if (status < 0 || status > 5) Fail("an exit status nobody documented");
+    if ((status == 1 || status == 2) && err.empty()) Fail("a refusal without a message");
+    if ((status == 1 || status == 2) && !out.empty()) Fail("output on a refusal");
     if (out.find("nan") != std::string::npos || out.find("inf") != std::string::npos) {
-        Fail("not a number printed", line, file, out, err);
+        Fail("not a number printed");
     }
     if (command == 7 || (status != 0 && status != 3 && status != 4 && status != 5)) return 0;
-    if (out.empty()) Fail("success without output", line, file, out, err);
+    if (out.empty()) Fail("success without output");
     if (command == 4) {
-        if (out.find("=\"\"") != std::string::npos) Fail("an empty coordinate", line, file, out, err);
+        if (out.find("=\"\"") != std::string::npos) Fail("an empty coordinate");
         if (out.rfind("<svg ", 0) != 0 || out.size() < 7 || out.substr(out.size() - 7) != "</svg>\n") {
-            Fail("a drawing cut short", line, file, out, err);
+            Fail("a drawing cut short");
         }
         return 0;
     }
     if (command == 8) {
-        if (gw::CurveFileBytes(gw::ParseCurveFile(out)) != out) Fail("an import that reads back otherwise", line, file, out, err);
+        if (gw::CurveFileBytes(gw::ParseCurveFile(out)) != out) Fail("an import that reads back otherwise");
         return 0;
     }
-    if (HasExponent(out)) Fail("a number in exponent form", line, file, out, err);
-    if (command == 1 && !gw::fuzz::JsonCheck::Valid(out)) Fail("JSON that is not well-formed", line, file, out, err);
+    if (gw::fuzz::HasExponent(out)) Fail("a number in exponent form");
+    if (command == 1 && !gw::fuzz::JsonCheck::Valid(out)) Fail("JSON that is not well-formed");
     if (command == 5) {
         const std::string last = out.substr(out.rfind('\n', out.size() - 2) + 1);
         if (last.rfind("Long enough: ", 0) != 0 && last.rfind("Too short: ", 0) != 0) {
-            Fail("a check without its verdict", line, file, out, err);
+            Fail("a check without its verdict");
         }
     }
     if (command == 3) {
@@ -205,9 +168,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         size_t count = 0;
         while (std::getline(rows, row)) {
             const double station = StationValue(row.substr(0, row.find(',')), metric);
-            if (!(station >= previous)) Fail("table rows out of station order", line, file, out, err);
+            if (!(station >= previous)) Fail("table rows out of station order");
             previous = station;
-            if (++count > 1000000 + 4000) Fail("an unbounded table", line, file, out, err);
+            if (++count > 1000000 + 4000) Fail("an unbounded table");
         }
     }
     return 0;

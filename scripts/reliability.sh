@@ -29,7 +29,7 @@ for step in "${steps[@]}"; do
         name=${target%%:*}; corpus=$work/${target##*:}
         echo "== fuzz_$name: $runs runs"
         (cd "$work" && "$OLDPWD/build/fuzz/fuzz/fuzz_$name" -runs="$runs" -timeout=10 -rss_limit_mb=2048 \
-          -print_final_stats=1 "$corpus" 2>&1 | grep -E 'Done|stat::|ERROR|SUMMARY' )
+          -print_final_stats=1 "$corpus" 2>&1 | grep -E 'Done|DONE|stat::|ERROR|SUMMARY' )
       done
       rm -rf "$work" ;;
     sanitizers)
