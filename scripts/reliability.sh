@@ -39,7 +39,7 @@ for step in "${steps[@]}"; do
       cmake --preset dev >/dev/null
       cmake --build --preset dev
       QT_QPA_PLATFORM=offscreen ctest --preset dev -R \
-        'SaveFault|FailedSave|HugeFile|SettingsStore|Placement|CurveFileRead|SaveAsIntoAMissing|ReplaceFile|OutputThatCannotBeWritten|BeyondComputing|StationSteps|CannotBeComputed|UnusualFiles|TwoCopies|open_files_at_start' ;;
+        'SaveFault|FailedSave|HugeFile|BadInput|BadArguments|SettingsStore|Placement|CurveFileRead|SaveAsIntoAMissing|ReplaceFile|OutputThatCannotBeWritten|BeyondComputing|StationSteps|CannotBeComputed|UnusualFiles|TwoCopies|open_files_at_start' ;;
     soak)
       scripts/ensure-packages.sh "${BUILD_PACKAGES[@]}" libbenchmark-dev
       cmake --preset bench >/dev/null
