@@ -7,17 +7,17 @@
 
 namespace gw::cli {
 
-size_t ValueCount(const OptionSpec& option) {
+size_t ValueCount(const OptionRow& option) {
     if (!option.value) return 0;
     size_t words = 1;
     for (const char* c = option.value; *c; ++c) words += *c == ' ';
     return words;
 }
 
-Arguments::Arguments(const CommandSpec& command, const std::vector<std::string>& words) : m_command(&command) {
+Arguments::Arguments(const CommandRow& command, const std::vector<std::string>& words) : m_command(&command) {
     for (size_t i = 0; i < words.size(); ++i) {
         const std::string& word = words[i];
-        if (const OptionSpec* option = command.Option(word)) {
+        if (const OptionRow* option = command.Option(word)) {
             const size_t count = ValueCount(*option);
             if (words.size() - i - 1 < count) {
                 throw UsageError{word + " needs " + (count == 1 ? "a value" : std::to_string(count) + " values") +
@@ -35,7 +35,7 @@ Arguments::Arguments(const CommandSpec& command, const std::vector<std::string>&
         }
     }
     if (m_file.empty()) throw UsageError{std::string(command.name) + " needs " + command.file};
-    for (const OptionSpec& option : command.options) {
+    for (const OptionRow& option : command.options) {
         if (!option.required || Has(option.name)) continue;
         std::string message = std::string(command.name) + " needs " + option.name;
         if (option.value) message += std::string(" ") + option.value;
@@ -82,10 +82,10 @@ void Arguments::Needs(std::string_view option, std::string_view with) const {
 
 bool Positive(double value) { return value > 0; }
 
-bool AsksForHelp(const std::vector<std::string>& words, const CommandSpec* command) {
+bool AsksForHelp(const std::vector<std::string>& words, const CommandRow* command) {
     for (size_t i = 0; i < words.size(); ++i) {
         if (words[i] == "--help" || words[i] == "-h") return true;
-        if (const OptionSpec* option = command ? command->Option(words[i]) : nullptr) i += ValueCount(*option);
+        if (const OptionRow* option = command ? command->Option(words[i]) : nullptr) i += ValueCount(*option);
     }
     return false;
 }

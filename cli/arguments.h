@@ -23,9 +23,9 @@ public:
     // Every option the command knows, each with its words, and exactly one FILE; an
     // unknown option, a missing value, a second FILE or a missing required option
     // is a UsageError. An option given twice keeps its last words.
-    Arguments(const CommandSpec& command, const std::vector<std::string>& words);
+    Arguments(const CommandRow& command, const std::vector<std::string>& words);
 
-    const CommandSpec& Command() const { return *m_command; }
+    const CommandRow& Command() const { return *m_command; }
     const std::string& File() const { return m_file; }
     bool Has(std::string_view option) const { return m_given.count(std::string(option)) > 0; }
     // The words that followed the option; none when it was not given.
@@ -44,7 +44,7 @@ public:
     void Needs(std::string_view option, std::string_view with) const;
 
 private:
-    const CommandSpec* m_command;
+    const CommandRow* m_command;
     std::string m_file;
     std::map<std::string, std::vector<std::string>, std::less<>> m_given;
 };
@@ -54,9 +54,9 @@ bool Positive(double value);
 // True when a word of the command line asks for help ("--help" or "-h"); the words
 // after an option of `command` are its values, even one that reads "-h". Without a
 // command every word is looked at.
-bool AsksForHelp(const std::vector<std::string>& words, const CommandSpec* command);
+bool AsksForHelp(const std::vector<std::string>& words, const CommandRow* command);
 
 // The number of words an option takes: one per word of its value's name.
-size_t ValueCount(const OptionSpec& option);
+size_t ValueCount(const OptionRow& option);
 
 }  // namespace gw::cli

@@ -35,7 +35,7 @@ int Emit(const std::optional<std::string>& output, const std::string& text, std:
 
 // The command's result is kept until it is complete, so that a refusal or a bad
 // argument found on the way writes nothing, and an output file is written whole.
-int Execute(const CommandSpec& command, const std::vector<std::string>& words, std::ostream& out, std::ostream& err) {
+int Execute(const CommandRow& command, const std::vector<std::string>& words, std::ostream& out, std::ostream& err) {
     try {
         const Arguments arguments(command, words);
         std::ostringstream result;
@@ -58,7 +58,7 @@ int Run(int argc, char** argv, std::ostream& out, std::ostream& err) {
         out << kVersion << "\n";
         return kDone;
     }
-    const CommandSpec* command = args.empty() ? nullptr : FindCommand(args[0]);
+    const CommandRow* command = args.empty() ? nullptr : FindCommand(args[0]);
     if (!command) {
         if (AsksForHelp(args, nullptr)) {
             out << GeneralHelp();

@@ -9,9 +9,9 @@
 namespace gw::cli {
 namespace {
 
-const OptionSpec kOutput{"-o", "OUT", "write to OUT instead of standard output"};
-const OptionSpec kJson{"--json", nullptr, "one JSON object instead of text"};
-const OptionSpec kProfileName{"--profile", "NAME", "the ProfAlign of that name, in a LandXML file holding several"};
+const OptionRow kOutput{"-o", "OUT", "write to OUT instead of standard output"};
+const OptionRow kJson{"--json", nullptr, "one JSON object instead of text"};
+const OptionRow kProfileName{"--profile", "NAME", "the ProfAlign of that name, in a LandXML file holding several"};
 
 constexpr const char* kCurveFile = "a curve FILE";
 constexpr const char* kAnyFile = "a FILE: a LandXML, CSV or curve file";
@@ -20,7 +20,7 @@ constexpr const char* kProfileFiles =
     "FILE is a LandXML 1.2 file (.xml), a CSV profile (.csv) or a curve file (.gwf),\n"
     "which is a profile from its PVC to its PVT; docs/cli.md describes each.";
 
-std::vector<CommandSpec> Rows() {
+std::vector<CommandRow> Rows() {
     return {
         {"solve", "solve FILE [--elevations] [--json] [-o OUT]", kCurveFile,
          "solve the curve; --elevations also recomputes the elevation rows",
@@ -233,32 +233,32 @@ std::string Indented(const std::string& text, size_t indent) {
 
 }  // namespace
 
-const OptionSpec* CommandSpec::Option(std::string_view name) const {
-    const auto it = std::find_if(options.begin(), options.end(), [&](const OptionSpec& o) { return o.name == name; });
+const OptionRow* CommandRow::Option(std::string_view name) const {
+    const auto it = std::find_if(options.begin(), options.end(), [&](const OptionRow& o) { return o.name == name; });
     return it == options.end() ? nullptr : &*it;
 }
 
-const std::vector<CommandSpec>& Commands() {
-    static const std::vector<CommandSpec> rows = Rows();
+const std::vector<CommandRow>& Commands() {
+    static const std::vector<CommandRow> rows = Rows();
     return rows;
 }
 
-const CommandSpec* FindCommand(std::string_view name) {
+const CommandRow* FindCommand(std::string_view name) {
     const auto& rows = Commands();
-    const auto it = std::find_if(rows.begin(), rows.end(), [&](const CommandSpec& c) { return c.name == name; });
+    const auto it = std::find_if(rows.begin(), rows.end(), [&](const CommandRow& c) { return c.name == name; });
     return it == rows.end() ? nullptr : &*it;
 }
 
 std::string GeneralHelp() {
     std::string text = "Usage:\n";
-    for (const CommandSpec& c : Commands()) text += "  gradewise-cli " + Indented(c.usage, 16) + "\n";
+    for (const CommandRow& c : Commands()) text += "  gradewise-cli " + Indented(c.usage, 16) + "\n";
     text +=
         "  gradewise-cli --version\n"
         "  gradewise-cli --help\n\n"
         "A curve file (.gwf) holds one curve of the desktop program, solved here in the\n"
         "mode it was saved in, exactly as the Calc button does. A profile (LandXML, CSV or\n"
         "a curve file) is a chain of PVIs with a vertical curve at any PVI between its ends.\n\n";
-    for (const CommandSpec& c : Commands()) {
+    for (const CommandRow& c : Commands()) {
         const std::string name = c.name;
         text += "  " + name + std::string(name.size() < 13 ? 13 - name.size() : 1, ' ') + Indented(c.summary, 15) + "\n";
     }
@@ -273,11 +273,11 @@ std::string GeneralHelp() {
     return text;
 }
 
-std::string CommandHelp(const CommandSpec& c) {
+std::string CommandHelp(const CommandRow& c) {
     std::string text = "Usage: gradewise-cli " + Indented(c.usage, 21) + "\n\n" + c.about + "\n\n";
     size_t width = 0;
     std::vector<std::string> names;
-    for (const OptionSpec& o : c.options) {
+    for (const OptionRow& o : c.options) {
         names.push_back(std::string(o.name) + (o.value ? std::string(" ") + o.value : ""));
         width = std::max(width, names.back().size());
     }

@@ -12,7 +12,7 @@ namespace gw::cli {
 
 class Arguments;
 
-struct OptionSpec {
+struct OptionRow {
     const char* name;   // "--every", "-o"
     const char* value;  // the words that follow it, as the help names them ("WHOLE+PLUS",
                         // "STA ELEV": two words, two values); nullptr for a flag
@@ -28,26 +28,26 @@ struct OptionSpec {
 // argument found on the way is thrown as a UsageError.
 using Handler = int (*)(const Arguments& arguments, std::ostream& out, std::ostream& err);
 
-struct CommandSpec {
+struct CommandRow {
     const char* name;
     const char* usage;    // after "gradewise-cli ": "table FILE --every WHOLE+PLUS [--csv] [-o OUT]"
     const char* file;     // what FILE is, for the message when it is missing: "a curve FILE"
     const char* summary;  // its lines in the general help, lined up after the name
     std::string about;    // what `COMMAND --help` says above the options
-    std::vector<OptionSpec> options;
+    std::vector<OptionRow> options;
     const char* exitStatus;  // the closing paragraph of `COMMAND --help`
     // The option that names the file the result goes to (written whole or not at
     // all); without it the result goes to standard output. nullptr: no such option.
     const char* output;
     Handler run;
 
-    const OptionSpec* Option(std::string_view name) const;
+    const OptionRow* Option(std::string_view name) const;
 };
 
-const std::vector<CommandSpec>& Commands();
-const CommandSpec* FindCommand(std::string_view name);
+const std::vector<CommandRow>& Commands();
+const CommandRow* FindCommand(std::string_view name);
 
 std::string GeneralHelp();
-std::string CommandHelp(const CommandSpec& command);
+std::string CommandHelp(const CommandRow& command);
 
 }  // namespace gw::cli

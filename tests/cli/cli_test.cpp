@@ -251,14 +251,14 @@ TEST_F(CliTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
 TEST_F(CliTest, VersionHelpAndTheProcessExitStatus) {
     EXPECT_EQ(RunCli({"--version"}).out, "gradewise-cli 4.3.1\n");
     const std::string all = RunCli({"--help"}).out;
-    for (const CommandSpec& spec : Commands()) {
-        const std::string command = spec.name;
+    for (const CommandRow& row : Commands()) {
+        const std::string command = row.name;
         SCOPED_TRACE(command);
         EXPECT_NE(all.find("gradewise-cli " + command + " FILE"), std::string::npos);
         const Result own = RunCli({command, "--help"});
         EXPECT_EQ(own.status, kDone);
         EXPECT_NE(own.out.find("gradewise-cli " + command + " FILE"), std::string::npos) << own.out;
-        for (const OptionSpec& option : spec.options) EXPECT_NE(own.out.find(option.name), std::string::npos);
+        for (const OptionRow& option : row.options) EXPECT_NE(own.out.find(option.name), std::string::npos);
     }
     EXPECT_EQ(ProcessStatus("--version"), kDone);
     EXPECT_EQ(ProcessStatus("solve /nonexistent/curve.gwf"), kUsage);
