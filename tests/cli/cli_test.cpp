@@ -258,7 +258,7 @@ TEST_F(CliTest, VersionHelpAndTheProcessExitStatus) {
         const Result own = RunCli({command, "--help"});
         EXPECT_EQ(own.status, kDone);
         EXPECT_NE(own.out.find("gradewise-cli " + command + " FILE"), std::string::npos) << own.out;
-        for (const OptionRow& option : row.options) EXPECT_NE(own.out.find(option.name), std::string::npos);
+        for (const OptionRow& option : row.options) EXPECT_NE(own.out.find(option.help), std::string::npos);
     }
     EXPECT_EQ(ProcessStatus("--version"), kDone);
     EXPECT_EQ(ProcessStatus("solve /nonexistent/curve.gwf"), kUsage);

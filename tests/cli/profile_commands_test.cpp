@@ -141,6 +141,7 @@ TEST_F(ProfileCommandsTest, BadArgumentsExitTwoWithTheReasonAndWriteNothing) {
          "design takes one of --k K, --through STA ELEV, or --under STA with --underside U and --clearance C"},
         {design + "--through 51+00", "--through needs 2 values: --through STA ELEV"},
         {design + "--through 51+00x 440", "--through: '51+00x' is not a station as WHOLE+PLUS"},
+        {design + "--through 51+-5 440", "--through: '51+-5' is not a station as WHOLE+PLUS"},
         {design + "--through 51+00 440 --hoffset 12", "--hoffset goes with --xslope"},
         {design + "--k 50 --voffset 1", "--voffset goes with --through"},
         {design + "--under 51+00 --underside 450", "--under goes with --clearance"},
@@ -293,10 +294,10 @@ TEST_F(ProfileCommandsTest, DesignStatuses) {
 
 // A curve file's tangents run on past its PVC and PVT: a longer curve moves its ends.
 TEST_F(ProfileCommandsTest, DesignOnACurveFileIsNotBoundByItsEnds) {
-    // PVI 12+00 at 104, +2 % to -2 %: K 200 gives 800 ft, from 8+00 at 96.
-    const Result r = RunCli({"design", Example("english-crest.gwf"), "--pvi", "2", "--k", "200"});
+    // PVI 12+00 at 104, +2 % to -2 %, PVC 10+00 and PVT 14+00: K 125 gives 500 ft.
+    const Result r = RunCli({"design", Example("english-crest.gwf"), "--pvi", "2", "--k", "125"});
     EXPECT_EQ(r.status, kDone) << r.err;
-    EXPECT_EQ(LastLine(r.out), "The curve: PVC 8+00.0 at 96.0, PVT 16+00.0 at 96.0.");
+    EXPECT_EQ(LastLine(r.out), "The curve: PVC 9+50.0 at 99.0, PVT 14+50.0 at 99.0.");
 }
 
 TEST_F(ProfileCommandsTest, ImportStatuses) {
