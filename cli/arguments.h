@@ -1,16 +1,15 @@
 #pragma once
-// What every gradewise-cli command shares: reading its arguments, loading the curve
-// file and writing its output.
+// The one reader of gradewise-cli's command lines: the words after the command,
+// read against the options of its row in the command table.
 
-#include <initializer_list>
+#include <cstddef>
 #include <map>
 #include <optional>
-#include <ostream>
-#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "core/curve_sheet.h"
+#include "cli/command_table.h"
 
 namespace gw::cli {
 
@@ -19,35 +18,45 @@ struct UsageError {
     std::string message;
 };
 
-// The words after the command: the options it knows, with or without a value,
-// and exactly one FILE.
-class CommandArguments {
+class Arguments {
 public:
-    CommandArguments(const std::vector<std::string>& args, std::initializer_list<const char*> withValue,
-                     std::initializer_list<const char*> flags);
+    // Every option the command knows, each with its words, and exactly one FILE; an
+    // unknown option, a missing value, a second FILE or a missing required option
+    // is a UsageError. An option given twice keeps its last words.
+    Arguments(const CommandRow& command, const std::vector<std::string>& words);
 
-    const std::string& Command() const { return m_command; }
+    const CommandRow& Command() const { return *m_command; }
     const std::string& File() const { return m_file; }
-    std::optional<std::string> Value(const std::string& option) const;
-    bool Flag(const std::string& option) const { return m_flags.count(option) > 0; }
+    bool Has(std::string_view option) const { return m_given.count(std::string(option)) > 0; }
+    // The words that followed the option; none when it was not given.
+    std::optional<std::string> Value(std::string_view option, size_t word = 0) const;
+
+    // The option's word as a number, none when the option was not given; otherwise
+    // "OPTION takes WHAT" when it is not a number or `accept` refuses it.
+    std::optional<double> Number(std::string_view option, std::string_view what, bool (*accept)(double) = nullptr,
+                                 size_t word = 0) const;
+    // A whole number from 1, such as the number of a PVI.
+    std::optional<size_t> Ordinal(std::string_view option, std::string_view what) const;
+    // The option's word as a station in ft or m; none when the option was not given.
+    std::optional<double> Station(std::string_view option, bool metric, size_t word = 0) const;
+
+    // Throws "OPTION goes with WITH" when the option is given without the other.
+    void Needs(std::string_view option, std::string_view with) const;
 
 private:
-    std::string m_command;
+    const CommandRow* m_command;
     std::string m_file;
-    std::map<std::string, std::string> m_values;
-    std::set<std::string> m_flags;
+    std::map<std::string, std::vector<std::string>, std::less<>> m_given;
 };
 
-// True when a word of the command line asks for help ("--help" or "-h"); the word after
-// an option in `withValue` is that option's value, even when it reads "-h".
-bool AsksForHelp(const std::vector<std::string>& args, std::initializer_list<const char*> withValue);
+bool Positive(double value);
 
-// The curve file as opening it in the program gives it; false (with the message
-// written) when it cannot be read.
-bool LoadCurve(const std::string& file, CurveSheet& sheet, std::ostream& err);
+// True when a word of the command line asks for help ("--help" or "-h"); the words
+// after an option of `command` are its values, even one that reads "-h". Without a
+// command every word is looked at.
+bool AsksForHelp(const std::vector<std::string>& words, const CommandRow* command);
 
-// To OUT when given, through the one file writer that leaves OUT as it was when the
-// write fails; else to `out`. The exit status.
-int Emit(const std::optional<std::string>& output, const std::string& text, std::ostream& out, std::ostream& err);
+// The number of words an option takes: one per word of its value's name.
+size_t ValueCount(const OptionRow& option);
 
 }  // namespace gw::cli

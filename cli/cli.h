@@ -1,5 +1,6 @@
 #pragma once
-// gradewise-cli: solve, auto-station and report curve files from scripts.
+// gradewise-cli: curve files solved, auto-stationed and reported as the desktop
+// program does, and whole profiles tabulated, drawn, checked, designed and exchanged.
 
 #include <ostream>
 
@@ -7,10 +8,11 @@ namespace gw::cli {
 
 enum ExitCode {
     kDone = 0,
-    kRefused = 1,       // a check refused the calculation
+    kRefused = 1,       // the input is refused: a check of the calculation, a file's content
     kUsage = 2,         // bad arguments, an unreadable file or an output not written
     kStationOffCurve = 3,  // Calculate TOS stopped at a station outside the curve
-    kTooShort = 4,         // check: the curve is shorter than the design speed needs
+    kTooShort = 4,         // check: a curve is shorter than the design speed needs
+    kNoSolution = 5,       // design: no length meets the condition; the answer says why
 };
 
 // Runs one command line. `out` takes the command's output; a caller writing it to

@@ -9,11 +9,17 @@ void JsonWriter::Separate() {
         m_afterKey = false;
         return;
     }
-    if (m_hasItems.empty()) return;
-    if (m_hasItems.back()) m_text += ',';
-    m_hasItems.back() = true;
+    if (m_open.empty()) return;
+    Level& level = m_open.back();
+    if (level.oneLine) {
+        if (level.hasItems) m_text += ", ";
+        level.hasItems = true;
+        return;
+    }
+    if (level.hasItems) m_text += ',';
+    level.hasItems = true;
     m_text += '\n';
-    m_text.append(2 * m_hasItems.size(), ' ');
+    m_text.append(2 * m_open.size(), ' ');
 }
 
 void JsonWriter::Value(std::string_view text) {
@@ -21,18 +27,18 @@ void JsonWriter::Value(std::string_view text) {
     m_text.append(text);
 }
 
-void JsonWriter::Open(char bracket) {
+void JsonWriter::Open(char bracket, bool oneLine) {
     Separate();
     m_text += bracket;
-    m_hasItems.push_back(false);
+    m_open.push_back({false, oneLine});
 }
 
 void JsonWriter::Close(char bracket) {
-    const bool items = m_hasItems.back();
-    m_hasItems.pop_back();
-    if (items) {
+    const Level level = m_open.back();
+    m_open.pop_back();
+    if (level.hasItems && !level.oneLine) {
         m_text += '\n';
-        m_text.append(2 * m_hasItems.size(), ' ');
+        m_text.append(2 * m_open.size(), ' ');
     }
     m_text += bracket;
 }

@@ -9,9 +9,10 @@ namespace gw::cli {
 
 class JsonWriter {
 public:
-    void BeginObject() { Open('{'); }
+    void BeginObject() { Open('{', false); }
     void EndObject() { Close('}'); }
-    void BeginArray() { Open('['); }
+    // An array of short items can stay on one line: [1, 2, 3].
+    void BeginArray(bool oneLine = false) { Open('[', oneLine); }
     void EndArray() { Close(']'); }
     // The name of the next member of the object being written.
     void Key(std::string_view name);
@@ -27,11 +28,15 @@ public:
 private:
     void Separate();
     void Value(std::string_view text);
-    void Open(char bracket);
+    void Open(char bracket, bool oneLine);
     void Close(char bracket);
 
+    struct Level {
+        bool hasItems = false;
+        bool oneLine = false;
+    };
     std::string m_text;
-    std::vector<bool> m_hasItems;  // per open object or array
+    std::vector<Level> m_open;  // per open object or array
     bool m_afterKey = false;
 };
 

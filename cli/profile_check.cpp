@@ -127,7 +127,7 @@ int ProfileCheckReport(const ProfileDocument& document, const Profile& profile, 
             if (d.levelPoint) {
                 out << "; K " << FormatNumber(*curve.RateOfCurvature())
                     << (d.warn ? " is above the " : " is within the ") << ShortNumber(d.maximumK)
-                    << " curbed roads allow" << (d.warn ? ": too flat to drain a curbed road" : "");
+                    << " that curbed roads allow" << (d.warn ? ": too flat to drain a curbed road" : "");
             }
             out << "\n";
         }

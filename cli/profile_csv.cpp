@@ -6,8 +6,8 @@
 #include <cmath>
 #include <vector>
 
+#include "cli/station_input.h"
 #include "core/numbers.h"
-#include "core/stations.h"
 
 namespace gw::cli {
 namespace {
@@ -104,19 +104,9 @@ bool CsvReader::Station(const std::string& text, double& value) {
         value = ReadNumber(text);
         return true;
     }
-    const std::string whole = text.substr(0, plusAt), plus = text.substr(plusAt + 1);
-    const bool wholeOk = IsNumericText(whole) && ReadNumber(whole) == std::trunc(ReadNumber(whole));
-    if (!wholeOk || !IsNumericText(plus) || plus[0] == '-' || plus[0] == '+') {
-        return Fail(At("Station") + ": '" + text + "' is not a station as WHOLE+PLUS.");
-    }
-    const double k = StationLength(m_metric ? kMetric : kEnglish);
-    if (!(ReadNumber(plus) < k)) {
-        return Fail(At("Station") + ": the plus part of '" + text + "' must be less than " + FormatWholeNumber(k) +
-                    ".");
-    }
-    // A leading sign belongs to the whole station: -1+50 is 150 before zero.
-    const double magnitude = std::fabs(ReadNumber(whole)) * k + ReadNumber(plus);
-    value = whole[0] == '-' ? -magnitude : magnitude;
+    const StationReading station = ReadStation(text, m_metric);
+    if (!station.value) return Fail(At("Station") + ": " + station.problem + ".");
+    value = *station.value;
     return true;
 }
 

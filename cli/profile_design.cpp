@@ -1,5 +1,6 @@
 #include "profile_design.h"
 
+#include <charconv>
 #include <cmath>
 
 #include "cli/cli.h"
@@ -15,9 +16,19 @@ std::string Place(double station, double elevation, bool metric) {
     return StationText(station, metric) + " at " + FormatNumber(elevation);
 }
 
+// A coefficient of the quadratic to ten significant digits, enough to follow the
+// working without the last digits' binary noise (8.12, not 8.12000000000005).
+std::string Coefficient(double value) {
+    char text[32];
+    const char* end = std::to_chars(text, text + sizeof text, value, std::chars_format::general, 10).ptr;
+    double rounded = value;
+    std::from_chars(text, end, rounded);
+    return PlainNumberText(rounded);
+}
+
 void Roots(const ControlPointDesign& d, const std::string& unit, bool metric, double station, std::ostream& out) {
-    out << "  as a quadratic in L: " << PlainNumberText(d.qa) << " L^2 " << (d.qb < 0 ? "- " : "+ ")
-        << PlainNumberText(std::fabs(d.qb)) << " L " << (d.qc < 0 ? "- " : "+ ") << PlainNumberText(std::fabs(d.qc))
+    out << "  as a quadratic in L: " << Coefficient(d.qa) << " L^2 " << (d.qb < 0 ? "- " : "+ ")
+        << Coefficient(std::fabs(d.qb)) << " L " << (d.qc < 0 ? "- " : "+ ") << Coefficient(std::fabs(d.qc))
         << " = 0\n";
     if (d.roots.empty()) {
         out << "  roots: none real\n";
@@ -25,27 +36,48 @@ void Roots(const ControlPointDesign& d, const std::string& unit, bool metric, do
     }
     out << "  roots:";
     for (size_t i = 0; i < d.roots.size(); ++i) {
-        out << (i ? "," : "") << " " << FormatNumber(d.roots[i].length) << unit
-            << (d.roots[i].valid ? " (reaches " : " (does not reach ") << StationText(station, metric)
-            << (d.roots[i].valid ? ")" : ": a curve must be at least " + FormatNumber(d.reach) + unit + " long)");
+        const Root& r = d.roots[i];
+        out << (i ? "," : "") << " " << FormatNumber(r.length) << unit;
+        if (!(r.length > 0)) {
+            out << " (no curve)";
+        } else {
+            out << (r.valid ? " (reaches " : " (does not reach ") << StationText(station, metric)
+                << (r.valid ? ")" : ": a curve must be at least " + FormatNumber(d.reach) + unit + " long)");
+        }
     }
     out << "\n";
 }
 
-// Whether the profile takes a curve of this length at the PVI: 0, or 1 with the refusal.
-int Fits(const ProfileDocument& document, size_t index, double length, std::ostream& out) {
+// Whether the profile takes a curve of this length at the PVI: 0, or 5 with the
+// refusal: a length that cannot be built is no solution. With open ends, a first or last PVI in the curve's way moves out along its
+// tangent, as the tangents of a single curve run on.
+int Fits(const ProfileDocument& document, size_t index, double length, bool openEnds, std::ostream& out) {
     ProfileInput input = document.input;
-    input.pvis[index].curve = CurveInput{};
-    input.pvis[index].curve.kind = CurveInput::Kind::Length;
-    input.pvis[index].curve.length = length;
+    PviInput& pvi = input.pvis[index];
+    pvi.curve = CurveInput{};
+    pvi.curve.kind = CurveInput::Kind::Length;
+    pvi.curve.length = length;
+    if (openEnds) {
+        const auto moveOut = [&](PviInput& end, double station) {
+            end.elevation += (end.elevation - pvi.elevation) / (end.station - pvi.station) * (station - end.station);
+            end.station = station;
+        };
+        if (index == 1 && pvi.station - length / 2 < input.pvis.front().station) {
+            moveOut(input.pvis.front(), pvi.station - length / 2);
+        }
+        if (index + 2 == input.pvis.size() && pvi.station + length / 2 > input.pvis.back().station) {
+            moveOut(input.pvis.back(), pvi.station + length / 2);
+        }
+    }
     const ProfileOutcome built = BuildProfile(input);
     if (!built.profile) {
         out << "The profile refuses this length: " << ToUtf8(built.error) << "\n";
-        return kRefused;
+        return kNoSolution;
     }
     const VerticalCurve& c = *built.profile->pvis()[index].curve;
-    out << "It fits between its neighbours: PVC " << Place(c.pvc(), c.pvcElevation(), input.metric) << ", PVT "
-        << Place(c.pvt(), c.pvtElevation(), input.metric) << ".\n";
+    out << (openEnds ? "The curve: PVC " : "It fits between its neighbours: PVC ")
+        << Place(c.pvc(), c.pvcElevation(), input.metric) << ", PVT " << Place(c.pvt(), c.pvtElevation(), input.metric)
+        << ".\n";
     return kDone;
 }
 
@@ -70,7 +102,7 @@ int ProfileDesignReport(const ProfileDocument& document, const Profile& profile,
     if (request.k) {
         const double L = LengthForK(*request.k, frame);
         out << "Length by K = " << FormatNumber(*request.k) << ": L = K A = " << FormatNumber(L) << unit << "\n";
-        return Fits(document, i, L, out);
+        return Fits(document, i, L, request.openEnds, out);
     }
     if (request.through) {
         const DesignRequest::Point& p = *request.through;
@@ -90,7 +122,7 @@ int ProfileDesignReport(const ProfileDocument& document, const Profile& profile,
             return kNoSolution;
         }
         out << "Length: " << FormatNumber(*d.length) << unit << "\n";
-        return Fits(document, i, *d.length, out);
+        return Fits(document, i, *d.length, request.openEnds, out);
     }
     if (!request.structure) {
         err << "gradewise-cli: design needs a K, a point to pass through or a structure to pass under\n";
@@ -113,10 +145,10 @@ int ProfileDesignReport(const ProfileDocument& document, const Profile& profile,
             return kDone;
         case ClearanceDesign::Bound::AtMost:
             out << "Length: at most " << FormatNumber(d.length) << unit << " (a sag curve rises as it grows)\n";
-            return Fits(document, i, d.length, out);
+            return Fits(document, i, d.length, request.openEnds, out);
         case ClearanceDesign::Bound::AtLeast:
             out << "Length: at least " << FormatNumber(d.length) << unit << " (a crest curve sinks as it grows)\n";
-            return Fits(document, i, d.length, out);
+            return Fits(document, i, d.length, request.openEnds, out);
     }
     return kDone;
 }

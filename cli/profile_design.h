@@ -9,9 +9,6 @@
 
 namespace gw::cli {
 
-// No length meets the design condition; the answer says why.
-inline constexpr int kNoSolution = 5;
-
 struct DesignRequest {
     size_t pvi = 0;  // the PVI's number, from 1
     std::optional<double> k;
@@ -25,12 +22,15 @@ struct DesignRequest {
         double station = 0, underside = 0, clearance = 0;
     };
     std::optional<Structure> structure;
+    // The profile's tangents run on past its first and last PVI, as a curve file's
+    // do: a longer curve moves them out instead of being refused.
+    bool openEnds = false;
 };
 
 // Exactly one of k, through and structure is given. Writes the working and the
 // length, and whether the profile takes a curve of that length at the PVI. Returns
-// 0 with a length, 5 when none exists, 1 when the profile refuses the length (the
-// curves would overlap), 2 when the PVI is not one between the ends.
+// 0 with a length; 5 when none exists or the profile refuses the one found (the
+// curves would overlap); 2 when the PVI is not one between the ends.
 int ProfileDesignReport(const ProfileDocument& document, const Profile& profile, const DesignRequest& request,
                         std::ostream& out, std::ostream& err);
 

@@ -3,7 +3,9 @@
 #include <pugixml.hpp>
 
 #include <algorithm>
+#include <cmath>
 #include <cstring>
+#include <map>
 #include <vector>
 
 #include "cli/text_output.h"
@@ -53,10 +55,11 @@ private:
     bool FindProfAlign(const pugi::xml_node& root, const std::optional<std::string>& name, pugi::xml_node& found);
     bool Number(const pugi::xml_node& node, const char* attribute, double& value);
     bool Point(const pugi::xml_node& node, PviInput& pvi);
-    void Extras(const pugi::xml_node& feature, ProfileDocument& doc);
+    bool Extras(const pugi::xml_node& feature, ProfileDocument& doc);
 
     std::string_view m_bytes;
     std::vector<ptrdiff_t> m_lineEnds;  // offsets of the line feeds
+    std::map<size_t, std::string> m_extrasAt;  // where the extras of each PVI were read
     std::string m_error;
 };
 
@@ -158,17 +161,23 @@ bool Reader::Point(const pugi::xml_node& node, PviInput& pvi) {
     return true;
 }
 
-void Reader::Extras(const pugi::xml_node& feature, ProfileDocument& doc) {
+// What a curve file held beyond its curve, for the PVI its "pvi" property names.
+bool Reader::Extras(const pugi::xml_node& feature, ProfileDocument& doc) {
     CurveFileExtras extras;
-    size_t pvi = 0;
+    std::string pvi;
     for (pugi::xml_node p : feature.children()) {
         if (LocalName(p) != "Property") continue;
         const std::string label = p.attribute("label").value();
         const std::string value = p.attribute("value").value();
-        int row = 0;
-        char part[16] = {};
+        // "row 3 whole", "row 3 plus": the texts of elevation row 3.
+        const std::string_view rest = std::string_view(label).substr(std::min<size_t>(4, label.size()));
+        const std::string rowText(rest.substr(0, rest.find(' ')));
+        const std::string_view part = rest.substr(std::min(rowText.size() + 1, rest.size()));
+        const double row = IsNumericText(rowText) ? ReadNumber(rowText) : 0;
+        const bool rowLabel = label.rfind("row ", 0) == 0 && row >= 1 && row <= kRowCount && row == std::trunc(row) &&
+                              (part == "whole" || part == "plus");
         if (label == "pvi") {
-            pvi = static_cast<size_t>(ReadNumber(value));
+            pvi = value;
         } else if (label == "mode") {
             extras.endsMode = value == "PVC and PVT";
         } else if (label == "vertical offset") {
@@ -177,12 +186,19 @@ void Reader::Extras(const pugi::xml_node& feature, ProfileDocument& doc) {
             extras.horizontalOffset = value;
         } else if (label == "cross slope") {
             extras.crossSlope = value;
-        } else if (std::sscanf(label.c_str(), "row %d %15s", &row, part) == 2 && row >= 1 && row <= kRowCount) {
-            auto& texts = extras.rows[static_cast<size_t>(row - 1)];
-            (std::strcmp(part, "whole") == 0 ? texts.first : texts.second) = value;
+        } else if (rowLabel) {
+            auto& texts = extras.rows[static_cast<size_t>(row) - 1];
+            (part == "whole" ? texts.first : texts.second) = value;
         }
     }
-    if (pvi >= 1) doc.extras[pvi - 1] = extras;
+    // A PVI's number, 1 or more; whether the profile has that PVI is seen at its end.
+    const double number = ReadNumber(pvi);
+    if (!IsNumericText(pvi) || !(number >= 1 && number <= 1e9) || number != std::trunc(number)) {
+        return Fail(Where(feature) + ": its pvi '" + pvi + "' is not the number of a PVI.");
+    }
+    doc.extras[static_cast<size_t>(number) - 1] = extras;
+    m_extrasAt[static_cast<size_t>(number) - 1] = Where(feature);
+    return true;
 }
 
 LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
@@ -223,7 +239,10 @@ LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
                                    "curves (ParaCurve, UnsymParaCurve).";
             return out;
         } else {
-            if (kind == "Feature" && std::string(n.attribute("name").value()) == kExtrasFeature) Extras(n, doc);
+            if (kind == "Feature" && std::string(n.attribute("name").value()) == kExtrasFeature && !Extras(n, doc)) {
+                out.error = m_error;
+                return out;
+            }
             continue;
         }
         if (!ok) {
@@ -233,6 +252,13 @@ LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
         // A curve of no length is a bare grade break.
         if (curve.kind == CurveInput::Kind::Length && curve.length == 0) curve.kind = CurveInput::Kind::None;
         doc.input.pvis.push_back(pvi);
+    }
+    for (const auto& [index, where] : m_extrasAt) {
+        if (index >= doc.input.pvis.size()) {
+            out.error = where + ": its pvi " + std::to_string(index + 1) + " is past the last PVI of the profile, PVI " +
+                        std::to_string(doc.input.pvis.size()) + ".";
+            return out;
+        }
     }
     out.document = std::move(doc);
     return out;

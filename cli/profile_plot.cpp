@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <vector>
 
+#include "cli/plot_scale.h"
 #include "cli/svg_writer.h"
 #include "cli/text_output.h"
 #include "core/numbers.h"
@@ -17,18 +19,12 @@ constexpr double kLeft = 92, kRightMargin = 40;
 constexpr double kLabelBottom = 320;  // labels stand on this line, reading upwards
 constexpr double kTop = 345, kBottom = 655;  // the plot area
 
+// Far more grid lines than the drawing can show: reaching it means the numbers are
+// beyond drawing.
+constexpr std::size_t kMostGridLines = 1000;
+
 constexpr const char* kCurveColour = "#1f4e8c";
 constexpr const char* kInk = "#222222";
-
-// 1, 2, 2.5 or 5 times a power of ten, giving about `count` steps over the span.
-double Step(double span, int count) {
-    const double raw = span / count;
-    const double power = std::pow(10.0, std::floor(std::log10(raw)));
-    for (double m : {1.0, 2.0, 2.5, 5.0, 10.0}) {
-        if (m * power >= raw) return m * power;
-    }
-    return 10 * power;
-}
 
 std::string Point(SvgWriter& svg, double x, double y) { return svg.Num(x) + "," + svg.Num(y); }
 
@@ -41,12 +37,13 @@ struct Mark {
 class Drawing {
 public:
     explicit Drawing(const Profile& p) : m_p(p) {}
-    std::string Draw(std::string_view title);
+    SvgDrawing Draw(std::string_view title);
 
 private:
     double X(double station) const { return kLeft + (station - m_p.begin()) * m_pxPerUnit; }
     double Y(double elevation) const { return kBottom - 20 - (elevation - m_low) * m_pxPerUnit * m_exaggeration; }
-    void Scale();
+    // Empty when the profile can be drawn to scale, else why not.
+    std::string Scale();
     void Axes(SvgWriter& svg) const;
     void Lines(SvgWriter& svg) const;
     void Marks(SvgWriter& svg);
@@ -54,9 +51,10 @@ private:
     const Profile& m_p;
     std::vector<Mark> m_marks;
     double m_width = 0, m_pxPerUnit = 0, m_exaggeration = 1, m_low = 0;
+    std::optional<StationSteps> m_stationTicks, m_elevationTicks;
 };
 
-void Drawing::Scale() {
+std::string Drawing::Scale() {
     // A curve's PVI stands off the road: it is marked at its own elevation.
     const bool metric = m_p.metric();
     std::vector<Mark> marks;
@@ -91,11 +89,7 @@ void Drawing::Scale() {
         high = std::max(high, m.elevation);
     }
     m_low = low;
-    const double room = kBottom - kTop - 40;
-    m_exaggeration = 1;
-    for (double e : {1.0, 2.0, 5.0, 10.0, 20.0, 25.0, 50.0, 100.0, 200.0, 250.0, 500.0, 1000.0}) {
-        if ((high - low) * m_pxPerUnit * e <= room) m_exaggeration = e;
-    }
+    m_exaggeration = Exaggeration(high - low, m_pxPerUnit, kBottom - kTop - 40);
     // Labels at their points where there is room, pushed right where there is not,
     // then back left from the right edge.
     double next = kLeft;
@@ -108,29 +102,36 @@ void Drawing::Scale() {
         it->labelX = std::min(it->labelX, limit);
         limit = it->labelX - kLabelPitch;
     }
+
+    // Grid lines through the bounded stepping: stations or elevations too large for
+    // their step end here with a reason instead of a drawing of noise.
+    const double step = NiceStep(m_p.end() - m_p.begin(), static_cast<int>((m_width - kLeft - kRightMargin) / 110));
+    m_stationTicks.emplace(std::ceil(m_p.begin() / step) * step, step, m_p.end(), kMostGridLines);
+    const double top = m_low + (kBottom - 20 - kTop) / (m_pxPerUnit * m_exaggeration);
+    const double bottom = m_low - 20 / (m_pxPerUnit * m_exaggeration);
+    const double rise = NiceStep(top - bottom, 6);
+    m_elevationTicks.emplace(std::ceil(bottom / rise) * rise, rise, top, kMostGridLines);
+    const auto drawable = [](const StationSteps& ticks) { return !ticks.Capped() && ticks.Resolved(); };
+    if (!(m_pxPerUnit > 0) || !std::isfinite(m_pxPerUnit) || !drawable(*m_stationTicks)) {
+        return "at stations near " + StationText(m_p.begin(), metric) + " a profile of " +
+               FormatNumber(m_p.end() - m_p.begin()) + " cannot be drawn to scale";
+    }
+    if (!drawable(*m_elevationTicks)) {
+        return "at elevations near " + FormatNumber(m_low) + " the rise and fall of this profile cannot be drawn to scale";
+    }
+    return {};
 }
 
 void Drawing::Axes(SvgWriter& svg) const {
     const std::string grid = R"(stroke="#e4e4e4" stroke-width="1")";
     const std::string tick = R"(font-size="11" fill="#333333")";
-    const double span = m_p.end() - m_p.begin();
-    const double step = Step(span, static_cast<int>((m_width - kLeft - kRightMargin) / 110));
-    // A whole count of ticks, so the loop ends whatever the stations are.
-    const double first = std::ceil(m_p.begin() / step);
-    const auto ticks = static_cast<long long>(std::floor(m_p.end() / step) - first);
-    for (long long i = 0; i <= ticks && i <= 1000; ++i) {
-        const double s = (first + static_cast<double>(i)) * step;
+    for (std::size_t i = 0; i < m_stationTicks->Count(); ++i) {
+        const double s = m_stationTicks->At(i);
         svg.Line(X(s), kTop, X(s), kBottom, grid);
-        std::string text = StationText(s, m_p.metric());
-        if (text.size() > 2 && text.compare(text.size() - 2, 2, ".0") == 0) text.resize(text.size() - 2);
-        svg.Text(X(s), kBottom + 16, text, tick + R"( text-anchor="middle")");
+        svg.Text(X(s), kBottom + 16, TickStation(s, m_p.metric()), tick + R"( text-anchor="middle")");
     }
-    const double top = m_low + (kBottom - 20 - kTop) / (m_pxPerUnit * m_exaggeration);
-    const double bottom = m_low - 20 / (m_pxPerUnit * m_exaggeration);
-    const double rise = Step(top - bottom, 6);
-    const double firstRise = std::ceil(bottom / rise);
-    for (long long i = 0; i <= 100 && (firstRise + static_cast<double>(i)) * rise <= top; ++i) {
-        const double e = (firstRise + static_cast<double>(i)) * rise;
+    for (std::size_t i = 0; i < m_elevationTicks->Count(); ++i) {
+        const double e = m_elevationTicks->At(i);
         svg.Line(kLeft, Y(e), m_width - kRightMargin, Y(e), grid);
         svg.Text(kLeft - 8, Y(e) + 4, ShortNumber(e), tick + R"( text-anchor="end")");
     }
@@ -187,8 +188,8 @@ void Drawing::Marks(SvgWriter& svg) {
     }
 }
 
-std::string Drawing::Draw(std::string_view title) {
-    Scale();
+SvgDrawing Drawing::Draw(std::string_view title) {
+    if (std::string why = Scale(); !why.empty()) return {{}, "the profile cannot be drawn: " + why};
     SvgWriter svg(m_width, kBottom + 60);
     svg.Rect(0, 0, m_width, kBottom + 60, R"(fill="#ffffff")");
     svg.Text(kLeft, 30, title, R"(font-size="17" font-weight="bold" fill="#111111")");
@@ -200,11 +201,12 @@ std::string Drawing::Draw(std::string_view title) {
     Axes(svg);
     Lines(svg);
     Marks(svg);
-    return svg.Finish();
+    if (!svg.AllFinite()) return {{}, "the profile cannot be drawn: its numbers lie beyond the range of drawing"};
+    return {svg.Finish(), {}};
 }
 
 }  // namespace
 
-std::string ProfilePlotSvg(const Profile& profile, std::string_view title) { return Drawing(profile).Draw(title); }
+SvgDrawing ProfilePlotSvg(const Profile& profile, std::string_view title) { return Drawing(profile).Draw(title); }
 
 }  // namespace gw::cli

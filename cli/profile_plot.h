@@ -5,12 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "cli/svg_writer.h"
 #include "core/profile.h"
 
 namespace gw::cli {
 
 // The drawing widens with the number of labels so that none overlaps another; each
-// label stands above the plot on a leader line from its point.
-std::string ProfilePlotSvg(const Profile& profile, std::string_view title);
+// label stands above the plot on a leader line from its point. A profile whose
+// stations or elevations are beyond drawing to scale is refused with the reason.
+SvgDrawing ProfilePlotSvg(const Profile& profile, std::string_view title);
 
 }  // namespace gw::cli

@@ -13,8 +13,6 @@
 namespace gw::cli {
 namespace {
 
-enum class Kind { LandXml, Csv, CurveFile };
-
 std::string BaseName(const std::string& path) {
     std::string name = path.substr(path.find_last_of('/') + 1);
     const size_t dot = name.find_last_of('.');
@@ -22,25 +20,10 @@ std::string BaseName(const std::string& path) {
     return name;
 }
 
-Kind KindOf(const std::string& path, std::string_view bytes) {
-    std::string extension;
-    const size_t dot = path.find_last_of('.');
-    if (dot != std::string::npos && path.find('/', dot) == std::string::npos) extension = path.substr(dot + 1);
-    for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    if (extension == "xml") return Kind::LandXml;
-    if (extension == "csv") return Kind::Csv;
-    if (extension == "gwf") return Kind::CurveFile;
-    const auto first =
-        std::find_if(bytes.begin(), bytes.end(), [](char c) { return !std::isspace(static_cast<unsigned char>(c)); });
-    if (first != bytes.end() && *first == '<') return Kind::LandXml;
-    if (first != bytes.end() && *first == '"') return Kind::CurveFile;
-    return Kind::Csv;
-}
-
 // The curve as opening the file in the program and pressing Calc gives it.
 ProfileSource FromCurveFile(std::string_view bytes, const std::string& name) {
     ProfileSource out;
-    CurveSheet sheet = LoadStoredCurve(ParseCurveFile(bytes), kMetric);
+    CurveSheet sheet = OpenedCurve(bytes);
     if (Outcome refused = Calculate(sheet)) {
         out.error = refused->message;
         return out;
@@ -51,11 +34,28 @@ ProfileSource FromCurveFile(std::string_view bytes, const std::string& name) {
 
 }  // namespace
 
+CurveSheet OpenedCurve(std::string_view bytes) { return LoadStoredCurve(ParseCurveFile(bytes), kMetric); }
+
+InputKind KindOf(const std::string& path, std::string_view bytes) {
+    std::string extension;
+    const size_t dot = path.find_last_of('.');
+    if (dot != std::string::npos && path.find('/', dot) == std::string::npos) extension = path.substr(dot + 1);
+    for (char& c : extension) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    if (extension == "xml") return InputKind::LandXml;
+    if (extension == "csv") return InputKind::Csv;
+    if (extension == "gwf") return InputKind::CurveFile;
+    const auto first =
+        std::find_if(bytes.begin(), bytes.end(), [](char c) { return !std::isspace(static_cast<unsigned char>(c)); });
+    if (first != bytes.end() && *first == '<') return InputKind::LandXml;
+    if (first != bytes.end() && *first == '"') return InputKind::CurveFile;
+    return InputKind::Csv;
+}
+
 ProfileSource ReadProfileSource(const std::string& path, std::string_view bytes,
                                 const std::optional<std::string>& profileName) {
     ProfileSource out;
     switch (KindOf(path, bytes)) {
-        case Kind::LandXml: {
+        case InputKind::LandXml: {
             LandXmlRead read = ReadLandXml(bytes, profileName);
             if (!read.document) {
                 out.error = read.error;
@@ -64,7 +64,7 @@ ProfileSource ReadProfileSource(const std::string& path, std::string_view bytes,
             out.document = std::move(*read.document);
             break;
         }
-        case Kind::Csv: {
+        case InputKind::Csv: {
             CsvRead read = ReadProfileCsv(bytes, BaseName(path));
             if (!read.document) {
                 out.error = read.error;
@@ -73,7 +73,7 @@ ProfileSource ReadProfileSource(const std::string& path, std::string_view bytes,
             out.document = std::move(*read.document);
             break;
         }
-        case Kind::CurveFile:
+        case InputKind::CurveFile:
             out = FromCurveFile(bytes, BaseName(path));
             if (!out.error.empty()) return out;
             break;
@@ -84,21 +84,33 @@ ProfileSource ReadProfileSource(const std::string& path, std::string_view bytes,
     return out;
 }
 
-int LoadProfile(const std::string& path, const std::optional<std::string>& profileName, ProfileSource& source,
-                std::ostream& err) {
-    std::string bytes, error;
-    if (!ReadFileBytes(path, bytes, error)) {
+int ReadInputFile(const std::string& path, InputFile& file, std::ostream& err) {
+    std::string error;
+    file.path = path;
+    if (!ReadFileBytes(path, file.bytes, error, kLandXmlReadLimit)) {
         err << "gradewise-cli: cannot read '" << path << "': " << error << "\n";
         return kUsage;
     }
-    if (bytes.size() >= kCurveFileReadLimit) {
-        err << "gradewise-cli: '" << path << "' is larger than " << kCurveFileReadLimit / (1024 * 1024)
-            << " MiB, more than a profile holds\n";
+    file.kind = KindOf(path, file.bytes);
+    const std::size_t limit = file.kind == InputKind::LandXml ? kLandXmlReadLimit : kCurveFileReadLimit;
+    if (file.kind == InputKind::CurveFile) {
+        if (file.bytes.size() > limit) file.bytes.resize(limit);
+    } else if (file.bytes.size() >= limit) {
+        err << "gradewise-cli: '" << path << "' is larger than " << limit / (1024 * 1024) << " MiB, "
+            << (file.kind == InputKind::LandXml ? "the most read of a LandXML file (export the alignment without "
+                                                  "its surfaces)"
+                                                : "more than a profile holds")
+            << "\n";
         return kUsage;
     }
-    source = ReadProfileSource(path, bytes, profileName);
+    return kDone;
+}
+
+int LoadProfile(const InputFile& file, const std::optional<std::string>& profileName, ProfileSource& source,
+                std::ostream& err) {
+    source = ReadProfileSource(file.path, file.bytes, profileName);
     if (!source.profile) {
-        err << "gradewise-cli: " << path << ": " << source.error << "\n";
+        err << "gradewise-cli: " << file.path << ": " << source.error << "\n";
         return kRefused;
     }
     return kDone;

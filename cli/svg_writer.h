@@ -31,6 +31,12 @@ private:
     bool m_allFinite = true;
 };
 
+// A finished drawing, or why there is none.
+struct SvgDrawing {
+    std::string svg;
+    std::string refused;  // why it cannot be drawn to scale; then svg is empty
+};
+
 std::string EscapeXml(std::string_view text);
 
 }  // namespace gw::cli

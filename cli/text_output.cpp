@@ -7,6 +7,7 @@
 #include <optional>
 #include <sstream>
 
+#include "cli/json_writer.h"
 #include "core/curve_geometry.h"
 #include "core/numbers.h"
 #include "core/report.h"
@@ -23,27 +24,6 @@ size_t Utf8SequenceLength(std::string_view s, size_t i) {
         if ((static_cast<unsigned char>(s[i + k]) & 0xC0) != 0x80) return 0;
     }
     return n;
-}
-
-void JsonString(std::ostringstream& out, std::string_view text) {
-    static const char* hex = "0123456789abcdef";
-    out << '"';
-    for (unsigned char c : ToUtf8(text)) {
-        switch (c) {
-            case '"': out << "\\\""; break;
-            case '\\': out << "\\\\"; break;
-            case '\n': out << "\\n"; break;
-            case '\r': out << "\\r"; break;
-            case '\t': out << "\\t"; break;
-            default:
-                if (c < 0x20) {
-                    out << "\\u00" << hex[c >> 4] << hex[c & 0xF];
-                } else {
-                    out << static_cast<char>(c);
-                }
-        }
-    }
-    out << '"';
 }
 
 std::string OptionalNumber(const std::optional<double>& value) {
@@ -98,65 +78,47 @@ std::string ShortNumber(double value) {
 }
 
 std::string CurveJson(const CurveSheet& s) {
-    std::ostringstream out;
-    out << "{";
-    bool first = true;
-    auto key = [&](std::string_view name) {
-        out << (first ? "\n  " : ",\n  ");
-        first = false;
-        JsonString(out, name);
-        out << ": ";
+    JsonWriter j;
+    j.BeginObject();
+    const auto text = [&j](std::string_view name, std::string_view value) {
+        j.Key(name);
+        j.String(value);
     };
-    for (std::string_view name : CurveSheet::CurveFieldNames()) {
-        key(name);
-        JsonString(out, *s.Field(name));
-    }
-    key("lblSDL");
-    JsonString(out, s.lblSDL);
-    key("lblMorF");
-    JsonString(out, s.lblMorF);
-    key("optPVI");
-    out << (s.optPVI ? "true" : "false");
-    key("optPVCPVT");
-    out << (s.optPVCPVT ? "true" : "false");
-    for (std::string_view name : {"txtVOffset", "txtHOffset", "txtXSlope"}) {
-        key(name);
-        JsonString(out, *s.elevations.Field(name));
-    }
+    for (std::string_view name : CurveSheet::CurveFieldNames()) text(name, *s.Field(name));
+    text("lblSDL", s.lblSDL);
+    text("lblMorF", s.lblMorF);
+    j.Key("optPVI");
+    j.Bool(s.optPVI);
+    j.Key("optPVCPVT");
+    j.Bool(s.optPVCPVT);
+    for (std::string_view name : {"txtVOffset", "txtHOffset", "txtXSlope"}) text(name, *s.elevations.Field(name));
     const std::pair<const char*, std::string ElevationRow::*> columns[] = {
         {"txtTOTSTA1", &ElevationRow::txtTOTSTA1},
         {"txtTOTSTAM1", &ElevationRow::txtTOTSTAM1},
         {"txtTotalTopSlab1", &ElevationRow::txtTotalTopSlab1},
     };
     for (const auto& [name, member] : columns) {
-        key(name);
-        out << "[";
-        for (int i = 0; i < kRowCount; ++i) {
-            if (i > 0) out << ", ";
-            JsonString(out, s.elevations.rows[i].*member);
-        }
-        out << "]";
+        j.Key(name);
+        j.BeginArray(true);
+        for (int i = 0; i < kRowCount; ++i) j.String(s.elevations.rows[i].*member);
+        j.EndArray();
     }
-    key("changed");
-    out << (s.changed ? "true" : "false");
+    j.Key("changed");
+    j.Bool(s.changed);
 
     // Read off the solved curve; none of these is a field of the curve window.
     const CurveGeometry curve = ReadCurveGeometry(s);
     const SightDistance sight = curve.Sight();
-    key("K");
-    JsonString(out, OptionalNumber(curve.RateOfCurvature()));
-    key("turningPointElevation");
+    text("K", OptionalNumber(curve.RateOfCurvature()));
     const auto tp = curve.TurningPoint();
-    JsonString(out, tp ? FormatNumber(curve.ElevationAt(*tp)) : std::string());
-    key("sightDistanceCase");
-    JsonString(out, CaseText(sight.governing));
-    key("sightDistance");
+    text("turningPointElevation", tp ? FormatNumber(curve.ElevationAt(*tp)) : std::string());
+    text("sightDistanceCase", CaseText(sight.governing));
     const bool unlimited =
         sight.kind == "HSD" && sight.governing == SightCase::BeyondCurve && !std::isfinite(sight.distance);
-    JsonString(out, unlimited ? "unlimited: with A of 1.75 % or less the headlight beam never meets the road"
-                              : std::string_view(s.txtSD));
-    out << "\n}\n";
-    return out.str();
+    text("sightDistance", unlimited ? "unlimited: with A of 1.75 % or less the headlight beam never meets the road"
+                                    : std::string_view(s.txtSD));
+    j.EndObject();
+    return j.Finish();
 }
 
 std::string ReportText(const CurveSheet& sheet) {

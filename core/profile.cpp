@@ -64,8 +64,10 @@ struct ProfileBuilder {
             return Fail("The profile has no length: " + Name(0) + " and " + Name(p.size() - 1) + " are both at " +
                         At(p.front().station) + ".");
         }
+        // Stations closer than the station tolerance are one station: they print alike
+        // and no file keeps them apart.
         for (size_t i = 0; i + 1 < p.size(); ++i) {
-            if (!(p[i + 1].station > p[i].station)) {
+            if (!(p[i + 1].station > p[i].station + StationTolerance(p[i].station))) {
                 return Fail(Name(i + 1) + " at " + At(p[i + 1].station) + " is not past " + Name(i) + " at " +
                             At(p[i].station) + ": stations must increase along the profile.");
             }

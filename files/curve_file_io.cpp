@@ -12,7 +12,7 @@ std::string Describe(int err) { return std::strerror(err); }
 
 }  // namespace
 
-bool ReadFileBytes(const std::string& path, std::string& bytes, std::string& error) {
+bool ReadFileBytes(const std::string& path, std::string& bytes, std::string& error, std::size_t limit) {
     struct stat info {};
     if (stat(path.c_str(), &info) == 0 && S_ISDIR(info.st_mode)) {
         error = Describe(EISDIR);
@@ -25,8 +25,8 @@ bool ReadFileBytes(const std::string& path, std::string& bytes, std::string& err
     }
     bytes.clear();
     char buffer[65536];
-    while (bytes.size() < kCurveFileReadLimit) {
-        size_t want = std::min(sizeof buffer, kCurveFileReadLimit - bytes.size());
+    while (bytes.size() < limit) {
+        size_t want = std::min(sizeof buffer, limit - bytes.size());
         size_t got = std::fread(buffer, 1, want, f);
         bytes.append(buffer, got);
         if (got < want) break;

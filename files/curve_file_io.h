@@ -10,8 +10,9 @@ namespace gw {
 // here so that a huge or endless file cannot take the program's memory or time.
 inline constexpr std::size_t kCurveFileReadLimit = 4 * 1024 * 1024;
 
-// Reads at most kCurveFileReadLimit bytes. False with a description in `error`
-// when the file cannot be opened or read.
-bool ReadFileBytes(const std::string& path, std::string& bytes, std::string& error);
+// Reads at most `limit` bytes. False with a description in `error` when the file
+// cannot be opened or read.
+bool ReadFileBytes(const std::string& path, std::string& bytes, std::string& error,
+                   std::size_t limit = kCurveFileReadLimit);
 
 }  // namespace gw

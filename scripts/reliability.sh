@@ -18,12 +18,18 @@ for step in "${steps[@]}"; do
       work=$(mktemp -d)
       cp -r fuzz/corpus/curve_file "$work/file"
       cp -r fuzz/corpus/commands "$work/commands"
+      cp -r fuzz/corpus/profile_files "$work/profile_files"
+      cp -r fuzz/corpus/profile_commands "$work/profile_commands"
       mkdir -p "$work/calc"
-      for target in curve_file:file calculations:calc commands:commands; do
+      targets=(curve_file:file calculations:calc commands:commands profile_files:profile_files
+               profile_commands:profile_commands)
+      # FUZZ_TARGETS="profile_files profile_commands" runs only those.
+      for target in "${targets[@]}"; do
+        [ -z "${FUZZ_TARGETS:-}" ] || [[ " $FUZZ_TARGETS " == *" ${target%%:*} "* ]] || continue
         name=${target%%:*}; corpus=$work/${target##*:}
         echo "== fuzz_$name: $runs runs"
         (cd "$work" && "$OLDPWD/build/fuzz/fuzz/fuzz_$name" -runs="$runs" -timeout=10 -rss_limit_mb=2048 \
-          -print_final_stats=1 "$corpus" 2>&1 | grep -E 'Done|stat::|ERROR|SUMMARY' )
+          -print_final_stats=1 "$corpus" 2>&1 | grep -E 'Done|DONE|stat::|ERROR|SUMMARY' )
       done
       rm -rf "$work" ;;
     sanitizers)
@@ -33,7 +39,7 @@ for step in "${steps[@]}"; do
       cmake --preset dev >/dev/null
       cmake --build --preset dev
       QT_QPA_PLATFORM=offscreen ctest --preset dev -R \
-        'SaveFault|FailedSave|HugeFile|SettingsStore|Placement|CurveFileRead|SaveAsIntoAMissing|ReplaceFile|OutputThatCannotBeWritten|BeyondComputing|StationSteps|CannotBeComputed|UnusualFiles|TwoCopies|open_files_at_start' ;;
+        'SaveFault|FailedSave|HugeFile|BadInput|BadArguments|SettingsStore|Placement|CurveFileRead|SaveAsIntoAMissing|ReplaceFile|OutputThatCannotBeWritten|BeyondComputing|StationSteps|CannotBeComputed|UnusualFiles|TwoCopies|open_files_at_start' ;;
     soak)
       scripts/ensure-packages.sh "${BUILD_PACKAGES[@]}" libbenchmark-dev
       cmake --preset bench >/dev/null

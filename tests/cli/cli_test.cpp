@@ -18,6 +18,8 @@
 #include <vector>
 
 #include "cli/cli.h"
+#include "cli/command_table.h"
+#include "tests/cli/run_cli.h"
 #include "core/curve_file.h"
 #include "tests/core/sheet_builders.h"
 #include "tests/disk_faults.h"
@@ -26,22 +28,6 @@
 
 namespace gw::cli::test {
 namespace {
-
-// What the command-line tool, run in this process, exits with and prints.
-struct Result {
-    int status;
-    std::string out;
-    std::string err;
-};
-
-Result RunCli(std::vector<std::string> args) {
-    args.insert(args.begin(), "gradewise-cli");
-    std::vector<char*> argv;
-    for (std::string& a : args) argv.push_back(a.data());
-    std::ostringstream out, err;
-    const int status = Run(static_cast<int>(argv.size()), argv.data(), out, err);
-    return {status, out.str(), err.str()};
-}
 
 // The exit status of the real program run with `args`.
 int ProcessStatus(const std::string& args) {
@@ -80,11 +66,6 @@ Result RunProgram(const std::vector<std::string>& args, const std::string& outpu
 }
 
 std::string Example(const char* name) { return std::string(GW_EXAMPLES_DIR) + "/" + name; }
-
-std::string LastLine(const std::string& text) {
-    const size_t end = text.find_last_not_of('\n');
-    return text.substr(text.rfind('\n', end) + 1, end - text.rfind('\n', end));
-}
 
 std::string Read(const std::string& path) {
     std::ifstream in(path, std::ios::binary);
@@ -185,7 +166,7 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
         {"solve", m_dir.string()},
         {"solve", file, "-o", Path("no/such/dir.gwf")},
         {"table", file, "--every", "0+0"},
-        {"table", file, "--every", "0+0.001"},  // 400 ft / 0.001 ft: 400000 rows
+        {"table", file, "--every", "0+0.0001"},  // 400 ft / 0.0001 ft: 4000000 rows
         {"plot", file, "--csv"},
         {"check", file, "--speed", "fast"},
         {"report", file, "--pdf", Path("none.pdf"), "--copies", "0"},  // once a 0-byte "PDF"
@@ -200,7 +181,7 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
     EXPECT_FALSE(std::filesystem::exists(Path("none.pdf")));
     EXPECT_NE(RunCli({"solve", Path("missing.gwf")}).err.find("No such file"), std::string::npos);
     EXPECT_EQ(RunCli({"check", file, "--speed", "81"}).err,
-              "gradewise-cli: a design speed of 81 mph is outside the design table (15 to 80 mph)\n");
+              "gradewise-cli: A design speed of 81.0 mph is outside the design table (15.0 to 80.0 mph).\n");
     EXPECT_EQ(RunCli({"table", file}).err,
               "gradewise-cli: table needs --every WHOLE+PLUS, for example --every 0+50\n"
               "Try 'gradewise-cli table --help'.\n");
@@ -270,12 +251,14 @@ TEST_F(CliTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
 TEST_F(CliTest, VersionHelpAndTheProcessExitStatus) {
     EXPECT_EQ(RunCli({"--version"}).out, "gradewise-cli 4.3.1\n");
     const std::string all = RunCli({"--help"}).out;
-    for (const char* command : {"solve", "autostation", "report", "table", "plot", "check"}) {
+    for (const CommandRow& row : Commands()) {
+        const std::string command = row.name;
         SCOPED_TRACE(command);
-        EXPECT_NE(all.find(std::string("gradewise-cli ") + command + " FILE"), std::string::npos);
+        EXPECT_NE(all.find("gradewise-cli " + command + " FILE"), std::string::npos);
         const Result own = RunCli({command, "--help"});
         EXPECT_EQ(own.status, kDone);
-        EXPECT_NE(own.out.find(std::string("gradewise-cli ") + command + " FILE"), std::string::npos) << own.out;
+        EXPECT_NE(own.out.find("gradewise-cli " + command + " FILE"), std::string::npos) << own.out;
+        for (const OptionRow& option : row.options) EXPECT_NE(own.out.find(option.help), std::string::npos);
     }
     EXPECT_EQ(ProcessStatus("--version"), kDone);
     EXPECT_EQ(ProcessStatus("solve /nonexistent/curve.gwf"), kUsage);
@@ -372,27 +355,35 @@ TEST_F(CliTest, TableAsCsvWithoutTheTwentyRowLimit) {
     EXPECT_EQ(LastLine(csv), "2+100.0,200.0,3.0,251.0,PVT");
 }
 
+// A curve file is checked as the profile of its one curve, against every criterion.
 TEST_F(CliTest, CheckVerdictsAgainstHandWorkedMinimumLengths) {
     struct Case {
-        std::string file;
+        const char* file;
         const char* speed;
         int status;
-        const char* minimumLine;
+        const char* criterion;  // the governing criterion's formula and minimum
         const char* verdict;
     } cases[] = {
         // crest A = 4, L = 400, 50 mph, S = 425: 4 * 425^2 / 2158 = 334.8 < S, so 850 - 539.5
-        {Example("english-crest.gwf"), "50", kDone, "Minimum length, current eye and object heights (C = 2158): 310.5 ft (S>L)",
-         "Long enough: L = 400.0 ft is at least the 310.5 ft needed at 50 mph."},
+        {"english-crest.gwf", "50", kDone, "L = 2 S - 2158 / A (S>L)  310.5 ft",
+         "Long enough: every curve meets every required criterion at 50 mph."},
         // 52 mph takes the 55 mph row, S = 495: 990 - 539.5 = 450.5
-        {Example("english-crest.gwf"), "52", kTooShort, "Minimum length, current eye and object heights (C = 2158): 450.5 ft (S>L)",
-         "Too short: L = 400.0 ft is less than the 450.5 ft needed at 55 mph."},
+        {"english-crest.gwf", "52", kTooShort, "L = 2 S - 2158 / A (S>L)  450.5 ft",
+         "Too short: PVI 2 (the curve's PVI) needs 450.5 ft for stopping sight distance."},
+        // sag A = 5, L = 200 m, 100 km/h, S = 185: 5 * 185^2 / (120 + 647.5) = 222.9642,
+        // more than S; comfort 5 * 100^2 / 395 = 126.5823
+        {"metric-sag.gwf", "100", kTooShort, "L = A S^2 / (120 + 3.5 S) (S<L)  222.9642 m",
+         "Too short: PVI 2 (the curve's PVI) needs 222.9642 m for headlight sight distance."},
     };
     for (const Case& c : cases) {
-        const Result r = RunCli({"check", c.file, "--speed", c.speed});
+        const Result r = RunCli({"check", Example(c.file), "--speed", c.speed});
         EXPECT_EQ(r.status, c.status) << c.speed << r.err;
-        EXPECT_NE(r.out.find(std::string(c.minimumLine) + "\n"), std::string::npos) << r.out;
+        EXPECT_NE(r.out.find(c.criterion), std::string::npos) << r.out;
         EXPECT_EQ(LastLine(r.out), c.verdict);
     }
+    const std::string sag = RunCli({"check", Example("metric-sag.gwf"), "--speed", "100"}).out;
+    EXPECT_NE(sag.find("L = A V^2 / 395"), std::string::npos) << sag;
+    EXPECT_NE(sag.find(" 126.5823 m "), std::string::npos) << sag;
 }
 
 TEST_F(CliTest, PlotLabelsTheCurveAndDrawsTheRows) {

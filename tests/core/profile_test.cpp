@@ -80,6 +80,10 @@ TEST(ProfileTest, RefusalsNameThePvisConcerned) {
          "The profile has no length: PVI 1 (line 2) and PVI 2 (line 3) are both at 10+00.0."},
         {"doubles back", Input({{1000, 100}, {900, 101}, {1100, 102}, {1500, 100}}),
          "PVI 2 (line 3) at 9+00.0 is not past PVI 1 (line 2) at 10+00.0: stations must increase along the profile."},
+        // 64 ft apart at 1e17 ft: closer than a station there can be written.
+        {"stations too close to tell apart", Input({{0, 100}, {1e17, 101}, {1e17 + 64, 102}}),
+         "PVI 3 (line 4) at 1000000000000000+64.0 is not past PVI 2 (line 3) at 1000000000000000+00.0: stations must "
+         "increase along the profile."},
         {"curve at the beginning", Input({{1000, 100, 100}, {1500, 101}}),
          "PVI 1 (line 2) begins the profile and cannot carry a vertical curve."},
         {"negative length", Input({{0, 100}, {1000, 110, -100}, {2000, 100}}),
@@ -126,9 +130,10 @@ TEST(ProfileRowsTest, RefusesIntervalsThatGiveTooManyRowsAndEndsForHugeStations)
     EXPECT_EQ(ProfileRows(p, 0.01).error,
               "An interval of 0.01 gives more than 1000000 rows over 52800.0; choose a longer interval.");
     EXPECT_FALSE(ProfileRows(p, 0).error.empty());
-    // Past 2^53 the stations no longer change by 1; the table still ends.
-    const Profile far = Build({{1e17, 100}, {1e17 + 4096, 120}});
-    EXPECT_LE(ProfileRows(far, 1).rows.size(), 4098u);
+    // Past 2^53 a foot no longer changes a station. A profile there spans more than its
+    // stations' tolerance, so a table of it every foot is refused rather than stepped.
+    const Profile far = Build({{1e17, 100}, {1e17 + 4e8, 120}});
+    EXPECT_FALSE(ProfileRows(far, 1).error.empty());
 }
 
 }  // namespace

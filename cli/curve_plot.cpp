@@ -1,9 +1,10 @@
-#include "profile_svg.h"
+#include "curve_plot.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
+#include "cli/plot_scale.h"
 #include "cli/svg_writer.h"
 #include "cli/text_output.h"
 #include "core/curve_geometry.h"
@@ -30,35 +31,7 @@ constexpr const char* kRowColour = "#d9661f";
 constexpr const char* kInk = "#222222";
 constexpr const char* kGridColour = "#e4e4e4";
 
-// 1, 2, 2.5 or 5 times a power of ten, giving about `target` steps over the span.
-double NiceStep(double span, int target) {
-    const double raw = span / target;
-    const double magnitude = std::pow(10.0, std::floor(std::log10(raw)));
-    for (double m : {1.0, 2.0, 2.5, 5.0}) {
-        if (m * magnitude >= raw * 0.999) return m * magnitude;
-    }
-    return 10 * magnitude;
-}
-
-// The largest usual exaggeration that keeps the profile's rise within `room` pixels.
-double Exaggeration(double rise, double pxPerUnit, double room) {
-    if (!(rise > 0)) return 10;
-    const double most = room / (rise * pxPerUnit);
-    double chosen = 1;
-    for (double e : {1.0, 2.0, 5.0, 10.0, 20.0, 25.0, 50.0, 100.0, 200.0, 250.0, 500.0, 1000.0}) {
-        if (e <= most) chosen = e;
-    }
-    return chosen;
-}
-
 std::string Signed(double percent) { return (percent > 0 ? "+" : "") + FormatNumber(percent) + " %"; }
-
-// Whole stations at a tick: "10+00", "1+850"; anything finer keeps its decimals.
-std::string TickStation(double value, bool metric) {
-    std::string text = StationText(std::round(value * 1e6) / 1e6, metric);
-    if (text.size() > 2 && text.compare(text.size() - 2, 2, ".0") == 0) text.resize(text.size() - 2);
-    return text;
-}
 
 double TextWidth(std::string_view text, double size) {
     double chars = 0;
@@ -80,12 +53,12 @@ struct Label {
     double direction;  // +1 below the point, -1 above
 };
 
-class ProfileDrawing {
+class CurveDrawing {
 public:
-    ProfileDrawing(const CurveSheet& sheet, const std::vector<ProfilePoint>& rows)
+    CurveDrawing(const CurveSheet& sheet, const std::vector<ProfilePoint>& rows)
         : m_sheet(sheet), m_curve(ReadCurveGeometry(sheet)), m_rows(rows), m_svg(kWidth, kHeight) {}
 
-    Profile Draw(std::string_view title);
+    SvgDrawing Draw(std::string_view title);
 
 private:
     double X(double station) const { return kLeft + (station - m_stationMin) * m_pxPerUnit; }
@@ -128,7 +101,7 @@ private:
     Box m_pviLabel{};
 };
 
-std::string ProfileDrawing::Scale() {
+std::string CurveDrawing::Scale() {
     const double L = m_curve.length;
     m_pvtElevation = m_curve.ElevationAt(L);
     const double span = L * 1.6;
@@ -168,7 +141,7 @@ std::string ProfileDrawing::Scale() {
     return {};
 }
 
-void ProfileDrawing::Grid() {
+void CurveDrawing::Grid() {
     m_svg.Rect(0, 0, kWidth, kHeight, R"(fill="#ffffff")");
     const std::string grid = std::string("stroke=\"") + kGridColour + "\" stroke-width=\"1\"";
     const std::string tickText = R"(font-size="12" fill="#333333")";
@@ -192,7 +165,7 @@ void ProfileDrawing::Grid() {
     m_svg.Text(kLeft - 62, (kTop + kBottom) / 2, "Elevation (" + Unit() + ")", axisTitle, -90);
 }
 
-void ProfileDrawing::GradeLine() {
+void CurveDrawing::GradeLine() {
     const double x0 = X(m_curve.pvc), y0 = Y(m_curve.pvcElevation);
     const double xi = X(m_curve.pvi()), yi = Y(m_curve.pviElevation());
     const double x1 = X(m_curve.pvt()), y1 = Y(m_pvtElevation);
@@ -218,7 +191,7 @@ void ProfileDrawing::GradeLine() {
     }
 }
 
-void ProfileDrawing::Points() {
+void CurveDrawing::Points() {
     const std::string row = std::string("fill=\"") + kRowColour + "\" stroke=\"#ffffff\" stroke-width=\"1\"";
     for (const ProfilePoint& p : m_rows) {
         m_svg.Circle(X(p.station), Y(p.elevation), 3.8, row);
@@ -239,7 +212,7 @@ void ProfileDrawing::Points() {
     }
 }
 
-std::optional<Box> ProfileDrawing::Place(const Label& label) {
+std::optional<Box> CurveDrawing::Place(const Label& label) {
     double width = 0;
     for (const std::string& line : label.lines) width = std::max(width, TextWidth(line, kFont));
     const double height = kLineHeight * label.lines.size() + 2;
@@ -272,7 +245,7 @@ std::optional<Box> ProfileDrawing::Place(const Label& label) {
     return box;
 }
 
-void ProfileDrawing::Labels() {
+void CurveDrawing::Labels() {
     const bool metric = m_curve.metric;
     const auto elevation = [](const std::string& field) { return "El. " + FormatNumber(ReadNumber(field)); };
     const double in = -Out();
@@ -296,7 +269,7 @@ void ProfileDrawing::Labels() {
     }
 }
 
-void ProfileDrawing::LengthDimension() {
+void CurveDrawing::LengthDimension() {
     const double x0 = X(m_curve.pvc), x1 = X(m_curve.pvt());
     const double y = Out() < 0 ? m_pviLabel.y0 - 14 : m_pviLabel.y1 + 14;
     const std::string thin = R"(stroke="#999999" stroke-width="0.8" stroke-dasharray="2 3")";
@@ -310,7 +283,7 @@ void ProfileDrawing::LengthDimension() {
                R"(font-size="12.5" fill="#222222" text-anchor="middle" font-weight="bold")");
 }
 
-void ProfileDrawing::GradeNotes() {
+void CurveDrawing::GradeNotes() {
     struct Tangent {
         double s0, s1, grade;
     };
@@ -329,7 +302,7 @@ void ProfileDrawing::GradeNotes() {
     }
 }
 
-void ProfileDrawing::Headings(std::string_view title) {
+void CurveDrawing::Headings(std::string_view title) {
     m_svg.Text(kLeft, 30, std::string(title), R"(font-size="17" font-weight="bold" fill="#111111")");
     const SightDistance sight = m_curve.Sight();
     const char* kind = m_curve.isCrest()        ? "Crest vertical curve"
@@ -347,7 +320,7 @@ void ProfileDrawing::Headings(std::string_view title) {
                R"(font-size="13" fill="#333333" text-anchor="end")");
 }
 
-void ProfileDrawing::Legend() {
+void CurveDrawing::Legend() {
     double x = kLeft;
     const double y = kBottom + 72;
     const auto item = [&](std::string_view text) {
@@ -368,7 +341,7 @@ void ProfileDrawing::Legend() {
     }
 }
 
-Profile ProfileDrawing::Draw(std::string_view title) {
+SvgDrawing CurveDrawing::Draw(std::string_view title) {
     if (std::string why = WhyNoElevations(m_sheet); !why.empty()) return {{}, why};
     if (std::string why = Scale(); !why.empty()) return {{}, "the curve cannot be drawn: " + why};
     Grid();
@@ -385,8 +358,8 @@ Profile ProfileDrawing::Draw(std::string_view title) {
 
 }  // namespace
 
-Profile ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title) {
-    return ProfileDrawing(solved, rows).Draw(title);
+SvgDrawing CurvePlotSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title) {
+    return CurveDrawing(solved, rows).Draw(title);
 }
 
 }  // namespace gw::cli

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/svg_writer.h"
 #include "core/curve_sheet.h"
 
 namespace gw::cli {
@@ -14,14 +15,9 @@ struct ProfilePoint {
     double elevation;
 };
 
-struct Profile {
-    std::string svg;
-    std::string refused;  // why the curve cannot be drawn to scale; then there is no svg
-};
-
 // Tangents and parabola to scale (with a stated vertical exaggeration), PVC, PVI, PVT
 // and turning point labelled with station and elevation, `rows` as points, grades and
 // length annotated. The curve must have a positive length.
-Profile ProfileSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title);
+SvgDrawing CurvePlotSvg(const CurveSheet& solved, const std::vector<ProfilePoint>& rows, std::string_view title);
 
 }  // namespace gw::cli
