@@ -68,11 +68,18 @@ void AppendStationText(std::string& out, double value, bool metric) {
         }
         // A whole number of fewer than sixteen digits is its own text, and its value
         // read back is exact, so this is SplitStation without the texts in between.
+        std::string plus;
+        AppendNumber(plus, value - whole * k);
+        // A plus part that the number format rounds up to a whole station is the next
+        // station's zero: 18+000.0, not 17+1000.0.
+        const bool carry = plus.find('.') > (metric ? 3u : 2u);
+        if (carry) plus = "0.0";
         char digits[24];
-        out.append(digits, std::to_chars(digits, digits + sizeof digits, static_cast<unsigned long long>(whole)).ptr);
+        out.append(digits, std::to_chars(digits, digits + sizeof digits,
+                                         static_cast<unsigned long long>(carry ? whole + 1 : whole)).ptr);
         out += '+';
         const size_t at = out.size();
-        AppendNumber(out, value - whole * k);
+        out += plus;
         return at;
     }();
     const size_t width = metric ? 3 : 2;

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "core/curve_solver.h"
+#include "core/numbers.h"
 #include "core/stations.h"
 #include "sheet_builders.h"
 
@@ -63,19 +64,21 @@ TEST(CurveGeometryTest, SightDistanceCaseThatGoverned) {
     }
 }
 
-TEST(CurveGeometryTest, StationTextPadsThePlusPart) {
+TEST(CurveGeometryTest, StationTextPadsThePlusPartAndCarriesAWholeStation) {
     struct Case {
         double value;
         bool metric;
         const char* text;
     } cases[] = {
         {1050.5, false, "10+50.5"}, {5, false, "0+05.0"}, {2050, true, "2+050.0"}, {-1010, true, "-1+010.0"},
+        {17999.99999, true, "18+000.0"}, {1799.99996, false, "18+00.0"}, {-1799.99996, false, "-18+00.0"},
+        {1799.99994, false, "17+99.9999"},
     };
     for (const Case& c : cases) EXPECT_EQ(StationText(c.value, c.metric), c.text) << c.value;
 }
 
 // Tables write stations without the texts SplitStation goes through; the bytes must
-// be SplitStation's, whatever the value.
+// be SplitStation's, whatever the value, but for the carry into the next station.
 TEST(CurveGeometryTest, StationTextIsSplitStationWithThePlusPadded) {
     std::mt19937_64 rng(5);
     std::uniform_real_distribution<double> mantissa(1.0, 10.0);
@@ -86,10 +89,15 @@ TEST(CurveGeometryTest, StationTextIsSplitStationWithThePlusPadded) {
         if (i % 5 == 0) v = std::round(v) - 0.00005;  // plus parts that round up to a whole station
         if (i % 3 == 0) v = -v;
         const StationTexts t = SplitStation(std::fabs(v), metric ? "Metric" : "English");
-        std::string plus = t.plus;
+        std::string whole = t.whole, plus = t.plus;
+        const double k = metric ? 1000 : 100;
+        if (std::fabs(v) / k < 1e15 && ReadNumber(plus) >= k) {  // rounded up to the next station
+            whole = std::to_string(std::stoll(whole) + 1);
+            plus = "0.0";
+        }
         const size_t width = metric ? 3 : 2;
         if (plus.find('.') < width) plus.insert(0, width - plus.find('.'), '0');
-        ASSERT_EQ(StationText(v, metric), (v < 0 ? "-" : "") + t.whole + "+" + plus) << std::setprecision(17) << v;
+        ASSERT_EQ(StationText(v, metric), (v < 0 ? "-" : "") + whole + "+" + plus) << std::setprecision(17) << v;
     }
 }
 
