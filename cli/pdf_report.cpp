@@ -12,6 +12,7 @@
 
 #include "core/report.h"
 #include "files/replace_file.h"
+#include "print/clock_text.h"
 #include "print/page_printer.h"
 #include "print/report_copies.h"
 
@@ -53,8 +54,8 @@ bool WriteReportPdf(const CurveSheet& sheet, const std::string& path, int copies
         const QDateTime now = QDateTime::currentDateTime();
         const QLocale locale = QLocale::system();
         const std::vector<std::string> lines =
-            ReportLines(sheet, locale.toString(now.date(), QLocale::ShortFormat).toStdString(),
-                        locale.toString(now.time(), QLocale::ShortFormat).toStdString());
+            ReportLines(sheet, ShortDateText(locale, now.date()).toStdString(),
+                        TimeOfDayText(locale, now.time()).toStdString());
         PagePrinter printer(writer);
         if (!PrintReportCopies(printer, lines, copies)) {
             error = "the PDF could not be made";
