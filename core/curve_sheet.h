@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "stations.h"
+
 namespace gw {
 
 inline constexpr int kRowCount = 20;
@@ -34,7 +36,7 @@ struct ElevationTable {
 };
 
 struct CurveSheet {
-    std::string lblMorF = "Metric";
+    std::string lblMorF = std::string(kMetric);
     std::string lblSDL;
     bool optPVI = true;
     bool optPVCPVT = false;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "curve_geometry.h"
 #include "messages.h"
 #include "numbers.h"
 #include "sight_distance.h"
@@ -45,9 +46,9 @@ void WriteStation(CurveSheet& s, std::string CurveSheet::*whole, std::string Cur
     s.*plus = t.plus;
 }
 
-// Where the grade of the parabola is zero, or "N/A" when both grades share a strict
-// sign. With a zero length of curve r has no value; the turning point then comes
-// out not finite and its fields are left empty.
+// Where the grade of the parabola is zero, or "N/A" when the grades share a sign.
+// With a zero length of curve r has no value; the turning point then comes out not
+// finite and its fields are left empty.
 void WriteTurningPoint(CurveSheet& s, double pvcValue, double L) {
     const double G1 = ReadNumber(s.txtG1);
     const double G2 = ReadNumber(s.txtG2);
@@ -55,7 +56,7 @@ void WriteTurningPoint(CurveSheet& s, double pvcValue, double L) {
     const double g2 = G2 / 100;
     const double r = (g2 - g1) / L;
     const double tp = r == 0 ? 0 : pvcValue - g1 / r;
-    if ((G1 > 0 && G2 > 0) || (G1 < 0 && G2 < 0)) {
+    if (GradesShareSign(G1, G2)) {
         s.txtTPSTA.clear();
         s.txtTPSTAM = "N/A";
     } else {

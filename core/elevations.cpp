@@ -8,14 +8,23 @@
 #include "stations.h"
 
 namespace gw {
-namespace {
 
-// The elevation as its field takes it: through the plain 15-digit text, then the
-// number format. A 15-digit text reads back to a double whose 15 digits are the
-// same, so formatting the value directly gives the identical text.
-std::string ThroughField(double value) { return FormatNumber(value); }
+Offsets ReadOffsets(const ElevationTable& t) {
+    return {IsNumericText(t.txtVOffset), ReadNumber(t.txtVOffset),
+            IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope),
+            (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset)};
+}
 
-}  // namespace
+bool AddOffsets(std::string& text, const Offsets& o) {
+    bool computed = true;
+    for (const auto& [with, add] : {std::pair{o.withV, o.V}, std::pair{o.withCross, o.cross}}) {
+        if (!with) continue;
+        const double value = ReadNumber(text) + add;
+        computed = computed && std::isfinite(value);
+        text = FormatNumber(value);
+    }
+    return computed;
+}
 
 Outcome CalculateTOS(CurveSheet& sheet) {
     ElevationTable& t = sheet.elevations;
@@ -30,10 +39,7 @@ Outcome CalculateTOS(CurveSheet& sheet) {
     const double L = ReadNumber(sheet.txtLC);
     const double E0 = ReadNumber(sheet.txtPVCEval);
     const double a = (g2 - g1) / L / 2;
-    const bool withV = IsNumericText(t.txtVOffset);
-    const double V = ReadNumber(t.txtVOffset);
-    const bool withCross = IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope);
-    const double cross = (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset);
+    const Offsets offsets = ReadOffsets(t);
 
     for (int i = 0; i < kRowCount; ++i) {
         ElevationRow& row = t.rows[i];
@@ -48,9 +54,10 @@ Outcome CalculateTOS(CurveSheet& sheet) {
         // A length of curve of zero (emptied after a Calc) has no parabola: the row
         // keeps an empty elevation instead of a number made up from a division by zero.
         if (!std::isfinite(E)) continue;
-        row.txtTotalTopSlab1 = ThroughField(E);
-        if (withV) row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + V);
-        if (withCross) row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + cross);
+        // A 15-digit text reads back to a double whose 15 digits are the same, so the
+        // number format of the value is the text the field ends with.
+        row.txtTotalTopSlab1 = FormatNumber(E);
+        AddOffsets(row.txtTotalTopSlab1, offsets);
     }
     t.bCalcOK = true;
     return std::nullopt;

@@ -1,6 +1,7 @@
 #include "report.h"
 
 #include "numbers.h"
+#include "stations.h"
 
 namespace gw {
 namespace {
@@ -8,9 +9,8 @@ namespace {
 const std::string kDashes(64, '-');
 
 std::string UnitsMark(std::string_view units) {
-    if (units == "Metric") return "(Metric)";
-    if (units == "English") return "(English)";
-    return {};
+    if (units != kMetric && units != kEnglish) return {};
+    return "(" + std::string(units) + ")";
 }
 
 class Lines {

@@ -31,13 +31,6 @@ double VerticalCurve::pvtElevation() const {
     return last.ElevationAt(last.length);
 }
 
-double VerticalCurve::gradeChange() const { return std::fabs(m_g1 - m_g2); }
-
-std::optional<double> VerticalCurve::RateOfCurvature() const {
-    if (gradeChange() == 0) return std::nullopt;
-    return length() / gradeChange();
-}
-
 double VerticalCurve::MiddleOrdinate() const {
     return gradeChange() / 100 * m_lengthIn * m_lengthOut / (2 * length());
 }
