@@ -1,4 +1,4 @@
-#include "curve_design.h"
+#include "core/curve_design.h"
 
 #include <cmath>
 

@@ -1,10 +1,10 @@
-#include "curve_geometry.h"
+#include "core/curve_geometry.h"
 
 #include <charconv>
 #include <cmath>
 
-#include "numbers.h"
-#include "stations.h"
+#include "core/numbers.h"
+#include "core/stations.h"
 
 namespace gw {
 

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
-#include "curve_sheet.h"
-#include "sight_distance.h"
+#include "core/curve_sheet.h"
+#include "core/sight_distance.h"
 
 namespace gw {
 

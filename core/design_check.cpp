@@ -1,4 +1,4 @@
-#include "design_check.h"
+#include "core/design_check.h"
 
 #include <algorithm>
 #include <array>

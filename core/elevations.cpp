@@ -1,11 +1,13 @@
-#include "elevations.h"
+#include "core/elevations.h"
 
 #include <cmath>
 
-#include "field_checks.h"
-#include "messages.h"
-#include "numbers.h"
-#include "stations.h"
+#include "core/curve_fields.h"
+#include "core/elevation_fields.h"
+#include "core/field_checks.h"
+#include "core/messages.h"
+#include "core/numbers.h"
+#include "core/stations.h"
 
 namespace gw {
 
@@ -47,7 +49,8 @@ Outcome CalculateTOS(CurveSheet& sheet) {
         const double T = ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1);
         if (T == 0) continue;
         if (pvc < pvt && (T < pvc || T > pvt)) {
-            return Refusal{std::string(msg::kStationOffCurve), "txtTOTSTAM1", i};
+            return Refusal{std::string(msg::kStationOffCurve),
+                           std::string(RowOf(kElevationFields, &ElevationRow::txtTOTSTAM1).name), i};
         }
         const double x = T - pvc;
         const double E = E0 + g1 * x + a * (x * x);
@@ -64,13 +67,15 @@ Outcome CalculateTOS(CurveSheet& sheet) {
 }
 
 bool CopyCurveStations(CurveSheet& sheet) {
-    ElevationTable& t = sheet.elevations;
-    const bool differed = t.txtPVCSTA != sheet.txtPVCSTA || t.txtPVCSTAM != sheet.txtPVCSTAM ||
-                          t.txtPVTSTA != sheet.txtPVTSTA || t.txtPVTSTAM != sheet.txtPVTSTAM;
-    t.txtPVCSTA = sheet.txtPVCSTA;
-    t.txtPVCSTAM = sheet.txtPVCSTAM;
-    t.txtPVTSTA = sheet.txtPVTSTA;
-    t.txtPVTSTAM = sheet.txtPVTSTAM;
+    bool differed = false;
+    for (const ElevationField& field : kElevationFields) {
+        if (field.kind != ElevationFieldKind::StationCopy) continue;
+        // Each copy bears the name of the curve's field it copies.
+        std::string& copy = TextOf(sheet.elevations, field, 0);
+        const std::string& curve = TextOf(sheet, CurveFieldNamed(field.name));
+        differed = differed || copy != curve;
+        copy = curve;
+    }
     return differed;
 }
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "curve_sheet.h"
-#include "refusal.h"
+#include "core/curve_sheet.h"
+#include "core/refusal.h"
 
 namespace gw {
 

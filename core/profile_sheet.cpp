@@ -1,6 +1,6 @@
-#include "profile_sheet.h"
+#include "core/profile_sheet.h"
 
-#include "numbers.h"
+#include "core/numbers.h"
 
 namespace gw {
 

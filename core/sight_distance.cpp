@@ -1,10 +1,10 @@
-#include "sight_distance.h"
+#include "core/sight_distance.h"
 
 #include <cmath>
 
-#include "curve_geometry.h"
-#include "design_check.h"
-#include "numbers.h"
+#include "core/curve_geometry.h"
+#include "core/design_check.h"
+#include "core/numbers.h"
 
 namespace gw {
 

@@ -1,12 +1,12 @@
-#include "station_rows.h"
+#include "core/station_rows.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
-#include "elevations.h"
-#include "numbers.h"
-#include "station_steps.h"
+#include "core/elevations.h"
+#include "core/numbers.h"
+#include "core/station_steps.h"
 
 namespace gw {
 namespace {

@@ -1,6 +1,6 @@
-#include "titles.h"
+#include "core/titles.h"
 
-#include "stations.h"
+#include "core/stations.h"
 
 namespace gw {
 namespace {

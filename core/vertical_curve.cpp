@@ -1,4 +1,4 @@
-#include "vertical_curve.h"
+#include "core/vertical_curve.h"
 
 #include <algorithm>
 #include <cmath>

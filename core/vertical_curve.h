@@ -5,7 +5,7 @@
 #include <array>
 #include <optional>
 
-#include "curve_geometry.h"
+#include "core/curve_geometry.h"
 
 namespace gw {
 

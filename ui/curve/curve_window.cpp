@@ -130,7 +130,7 @@ void frmCrestCurve::WatchLeaveChecks() {
     for (const auto& [name, field] : m_fields) {
         checks->Watch(*field, [this, name = name](QLineEdit&) {
             std::vector<QString> messages;
-            if (const auto message = CheckCurveFieldOnLeave(GatherSheet(), name)) messages.push_back(Q(*message));
+            if (const auto message = CheckCurveFieldOnLeave(GatherSheet(), CurveFieldNamed(name))) messages.push_back(Q(*message));
             return messages;
         });
     }

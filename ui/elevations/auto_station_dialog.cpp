@@ -29,7 +29,7 @@ AutoStationDialog::AutoStationDialog(Platform& platform, QWidget* parent) : QDia
         m_checks->Watch(*field, [this](QLineEdit& f) {
             Gather();
             std::vector<QString> out;
-            for (std::string_view m : m_state.CheckOnLeave(S(f.objectName()))) out.push_back(Q(std::string(m)));
+            for (std::string_view m : m_state.CheckOnLeave(AutoStationFieldNamed(S(f.objectName())))) out.push_back(Q(std::string(m)));
             return out;
         });
     }
