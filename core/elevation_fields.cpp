@@ -42,13 +42,13 @@ bool IsInput(const ElevationField& field) {
     return field.kind == K::Offset || field.kind == K::RowStation || field.kind == K::RowPlus;
 }
 
-Rect PlaceInRow(const ElevationField& field, int row) {
-    if (!IsColumn(field)) return field.place;
-    Rect r = field.place;
+Rect PlaceInRow(Rect r, int row) {
     r.left += row < kRowsPerColumn ? 0 : kColumnShift;
     r.top += kRowHeight * (row % kRowsPerColumn);
     return r;
 }
+
+Rect PlaceInRow(const ElevationField& field, int row) { return IsColumn(field) ? PlaceInRow(field.place, row) : field.place; }
 
 namespace {
 

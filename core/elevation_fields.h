@@ -42,6 +42,8 @@ inline constexpr int kColumnShift = 256;
 
 bool IsColumn(const ElevationField& field);
 bool IsInput(const ElevationField& field);
+// A place given for row 0, moved to row `row`.
+Rect PlaceInRow(Rect placeInRowZero, int row);
 // Where a field lies in row `row`; a field of its own ignores the row.
 Rect PlaceInRow(const ElevationField& field, int row);
 

@@ -5,17 +5,10 @@
 #include <QPushButton>
 
 #include "app_icon.h"
-#include "ui/common/field_style.h"
+#include "ui/common/layout.h"
 
 namespace gw {
 namespace {
-
-// Twips, as the box is laid out, to pixels at 96 pixels per inch.
-constexpr int Px(int twips) { return twips / 15; }
-
-QRect Twips(int left, int top, int width, int height) {
-    return QRect(Px(left), Px(top), Px(width), Px(height));
-}
 
 const char* const kDescription = "Description: Calculate highway curve information.";
 const char* const kAuthor = "Written by the Gradewise developers.";
@@ -36,11 +29,7 @@ QString frmAbout::VersionLine() {
 }
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(QStringLiteral("About Gradewise"));
-    setFixedSize(Px(5820), Px(3795));
-    setFont(DialogFont());
-    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    SetUpFixedDialog(*this, "frmAbout", QStringLiteral("About Gradewise"), Twips(0, 0, 5820, 3795).size());
 
     auto* ok = new QPushButton(QStringLiteral("OK"), this);
     ok->setObjectName(QStringLiteral("cmdOK"));

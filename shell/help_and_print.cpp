@@ -3,6 +3,7 @@
 #include "about_box.h"
 #include "main_window.h"
 #include "platform/platform.h"
+#include "ui/common/leave_checks.h"
 #include "print/curve_report.h"
 #include "ui/curve/curve_window.h"
 
@@ -20,7 +21,7 @@ void frmMain::mnuHelpAbout_Click() {
     // returns while the box still exists, so it must not delete itself on closing.
     frmAbout about(this);
     m_platform.ShowModal(about);
-    activateWindow();
+    ComeBack(*this);
 }
 
 }  // namespace gw

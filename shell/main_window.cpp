@@ -10,11 +10,11 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "core/messages.h"
 #include "files/commands/file_commands.h"
 #include "files/commands/recent_files_menu.h"
 #include "platform/file_names.h"
 #include "platform/platform.h"
+#include "platform/texts.h"
 #include "display_check.h"
 #include "frame_placement.h"
 #include "placement.h"
@@ -35,7 +35,7 @@ const char* const kHomePage = "https://gradewise.org/";
 
 frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_platform(platform) {
     setObjectName(QStringLiteral("frmMain"));
-    setWindowTitle(QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size())));
+    setWindowTitle(AppTitle());
     m_mdi = new QMdiArea(this);
     m_mdi->setObjectName(QStringLiteral("mdiArea"));
     m_mdi->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);

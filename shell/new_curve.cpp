@@ -7,6 +7,7 @@
 #include "core/titles.h"
 #include "main_window.h"
 #include "platform/platform.h"
+#include "ui/common/leave_checks.h"
 #include "ui/curve/curve_window.h"
 #include "units_dialog.h"
 
@@ -20,8 +21,7 @@ frmInformation& frmMain::UnitsDialog() {
 void frmMain::mnuVerticalCrest_Click() {
     frmInformation& units = UnitsDialog();
     m_platform.ShowModal(units);
-    // Without a window manager nothing gives the frame back its activation.
-    activateWindow();
+    ComeBack(*this);
     if (units.Tag().isEmpty()) return;
     m_platform.SetBusyCursor(false);
 

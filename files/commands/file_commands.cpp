@@ -2,7 +2,7 @@
 
 #include <QCoreApplication>
 
-#include "core/messages.h"
+#include "platform/texts.h"
 #include "core/titles.h"
 #include "curve_window_host.h"
 #include "file_texts.h"
@@ -87,7 +87,7 @@ void FileCommands::ReportMissingFile() {
 
 void FileCommands::ReportFailure(const QString& description) {
     MessageRequest request;
-    request.title = QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size()));
+    request.title = AppTitle();
     request.text = description;
     request.icon = MessageIcon::Exclamation;
     m_platform.ShowMessage(m_owner, request);

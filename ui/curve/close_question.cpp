@@ -4,13 +4,13 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-#include "core/messages.h"
 #include "core/titles.h"
-#include "curve_saver.h"
-#include "curve_window.h"
 #include "platform/file_names.h"
 #include "platform/platform.h"
-#include "window_slots.h"
+#include "platform/texts.h"
+#include "ui/curve/curve_saver.h"
+#include "ui/curve/curve_window.h"
+#include "ui/curve/window_slots.h"
 
 namespace gw {
 
@@ -25,7 +25,7 @@ void frmCrestCurve::Form_QueryUnload(bool& cancel) {
 
     const std::string title = FileNameBytes(windowTitle());
     MessageRequest question;
-    question.title = QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size()));
+    question.title = AppTitle();
     question.text = FileNameFromBytes(CloseQuestion(CurveNameFromTitle(title)));
     question.buttons = MessageButtons::YesNoCancel;
     question.defaultButton = MessageButton::Yes;

@@ -1,17 +1,18 @@
 #pragma once
 // frmCrestCurve: the document window of one vertical curve. It holds the curve's
-// texts in its fields; every command gathers a CurveSheet from them, lets the core
-// work on it and puts the texts back.
+// texts in its fields, one per row of the curve window's table; every command
+// gathers a CurveSheet from them, lets the core work on it and puts the texts back.
 
 #include <QString>
 #include <QWidget>
-#include <map>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "core/curve_fields.h"
 #include "core/curve_sheet.h"
 #include "core/refusal.h"
 
-class QGroupBox;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -36,6 +37,7 @@ public:
     int Slot() const { return m_slot; }
     QString Tag() const { return QString::number(m_slot); }
     QString UnitSystem() const;
+    // The text field of that name; any other name throws.
     QLineEdit* Field(std::string_view name) const;
 
     CurveSheet GatherSheet() const;
@@ -58,9 +60,11 @@ private:
     void BuildControls();
     void WatchLeaveChecks();
     void ApplyMode(bool pvi);
-    void FocusFirstInput();
+    QLineEdit* FirstInput() const;
     void Report(const Refusal& refusal);
-    void PutFocusBack(QLineEdit* field);
+    // The control made for a row of the table.
+    template <class Widget>
+    Widget* ControlOf(const CurveField& field) const;
 
     // Form_KeyPress and the Enter key; true when the key is discarded.
     bool Form_KeyPress(QLineEdit* field, QKeyEvent* key);
@@ -72,8 +76,7 @@ private:
     Platform& m_platform;
     const int m_slot;
 
-    std::map<std::string_view, QLineEdit*> m_fields;
-    QGroupBox* m_frame1 = nullptr;
+    std::vector<std::pair<const CurveField*, QWidget*>> m_controls;  // in table order
     QRadioButton* m_optPVI = nullptr;
     QRadioButton* m_optPVCPVT = nullptr;
     QLabel* m_lblSDL = nullptr;

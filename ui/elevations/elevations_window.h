@@ -1,13 +1,15 @@
 #pragma once
 // frmTS: the modal window that lists twenty stations along a curve with their
-// elevations. Its texts are the slot's elevation table: loaded when it is shown,
+// elevations. It has one field for each row of the elevations window's table (twenty
+// for a column); its texts are the slot's elevation table: loaded when it is shown,
 // written back after every command and when it hides.
 
 #include <QDialog>
-#include <array>
 #include <string_view>
+#include <vector>
 
 #include "core/curve_sheet.h"
+#include "core/elevation_fields.h"
 #include "core/refusal.h"
 
 class QLabel;
@@ -36,7 +38,9 @@ public:
     void cmdAutoStation_Click();
 
     bool CalcOK() const { return m_bCalcOK; }
-    QLineEdit* Field(std::string_view name) const;  // the single fields by control name
+    // The field of its own, or a column's field in a row, of that name; any other
+    // name or row throws.
+    QLineEdit* Field(std::string_view name) const;
     QLineEdit* RowField(std::string_view name, int row) const;
 
 protected:
@@ -46,10 +50,18 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // A field of the table, in a row for a column.
+    struct Control {
+        const ElevationField* field;
+        int row;
+        QLineEdit* edit;
+    };
+
     void BuildControls();
-    QLineEdit* AddField(const char* name, int left, int top, int width);
     void WatchRowChecks();
     void SetUnitLabels(const CurveSheet& curve);
+    QLineEdit* ControlOf(const ElevationField& field, int row) const;
+    QLineEdit* FirstStation() const;
 
     // One command: the curve and these fields in, the core's result out.
     CurveSheet Gather() const;
@@ -62,22 +74,9 @@ private:
     AutoStationDialog& m_autoStation;
     LeaveChecks* m_checks = nullptr;
 
-    QLineEdit* m_txtPVCSTA = nullptr;
-    QLineEdit* m_txtPVCSTAM = nullptr;
-    QLineEdit* m_txtPVTSTA = nullptr;
-    QLineEdit* m_txtPVTSTAM = nullptr;
-    QLineEdit* m_txtVOffset = nullptr;
-    QLineEdit* m_txtHOffset = nullptr;
-    QLineEdit* m_txtXSlope = nullptr;
+    std::vector<Control> m_controls;  // in table order, a column row by row
     QLabel* m_lblvoffsetm = nullptr;
     QLabel* m_lblhoffsetm = nullptr;
-    std::array<QLineEdit*, kRowCount> m_txtTOTSTA1{};
-    std::array<QLineEdit*, kRowCount> m_txtTOTSTAM1{};
-    std::array<QLineEdit*, kRowCount> m_txtTotalTopSlab1{};
-    QPushButton* m_cmdClear = nullptr;
-    QPushButton* m_cmdAutoStation = nullptr;
-    QPushButton* m_cmdCalculateTOS = nullptr;
-    QPushButton* m_cmdOK = nullptr;
 
     bool m_bCalcOK = false;
 };
