@@ -17,7 +17,7 @@
 #include <string>
 
 #include "core/curve_file.h"
-#include "files/commands/file_commands.h"
+#include "commands/file_commands.h"
 #include "platform/scripted_platform.h"
 #include "shell/main_menus.h"
 #include "shell/main_window.h"

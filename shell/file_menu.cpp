@@ -2,8 +2,8 @@
 
 #include <QAction>
 
-#include "files/commands/file_commands.h"
-#include "files/commands/recent_files_menu.h"
+#include "commands/file_commands.h"
+#include "commands/recent_files_menu.h"
 #include "main_window.h"
 
 namespace gw {
@@ -11,7 +11,6 @@ namespace gw {
 void frmMain::ConnectFileMenu() {
     m_recent = std::make_unique<RecentFilesMenu>(m_platform.Settings(), m_menus.mnuRecentFile);
     m_files = std::make_unique<FileCommands>(*this, m_slots, m_platform, *m_recent, this);
-    m_slots.AttachSaver(*m_files);
     connect(m_menus.mnuOpen, &QAction::triggered, this, &frmMain::mnuOpen_Click);
     connect(m_menus.mnuSave, &QAction::triggered, this, &frmMain::mnuSave_Click);
     connect(m_menus.mnuSaveAs, &QAction::triggered, this, &frmMain::mnuSaveAs_Click);

@@ -4,7 +4,7 @@
 #include "main_window.h"
 #include "platform/platform.h"
 #include "ui/common/leave_checks.h"
-#include "print/curve_report.h"
+#include "commands/print_command.h"
 #include "ui/curve/curve_window.h"
 
 namespace gw {

@@ -10,8 +10,8 @@
 #include <QMenu>
 #include <QMenuBar>
 
-#include "files/commands/file_commands.h"
-#include "files/commands/recent_files_menu.h"
+#include "commands/file_commands.h"
+#include "commands/recent_files_menu.h"
 #include "platform/file_names.h"
 #include "platform/platform.h"
 #include "platform/texts.h"
@@ -33,7 +33,7 @@ const char* const kHomePage = "https://gradewise.org/";
 
 }  // namespace
 
-frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_platform(platform) {
+frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_platform(platform), m_slots(platform) {
     setObjectName(QStringLiteral("frmMain"));
     setWindowTitle(AppTitle());
     m_mdi = new QMdiArea(this);
@@ -46,7 +46,6 @@ frmMain::frmMain(Platform& platform, QWidget* parent) : QMainWindow(parent), m_p
     setStatusBar(m_status);
     ConnectMenus();
     ConnectFileMenu();
-    m_slots.AttachElevations(m_platform);
     resize(1000, 700);
 }
 

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <memory>
 
-#include "files/commands/curve_window_host.h"
+#include "commands/curve_window_host.h"
 #include "main_menus.h"
 #include "placement.h"
 #include "ui/curve/window_slots.h"
@@ -40,7 +40,7 @@ public:
     // The curve window commands act on: the current child even while the frame is
     // not the active window.
     frmCrestCurve* ActiveCurveWindow() const override;
-    frmCrestCurve* OpenCurveWindow(int slot) override;
+    frmCrestCurve& OpenCurveWindow(WindowSlot& slot) override;
     // Created on first use and kept, hidden, with its last answer.
     frmInformation& UnitsDialog();
 
@@ -73,7 +73,7 @@ protected:
 private:
     void ConnectMenus();
     void ConnectFileMenu();
-    QMdiSubWindow* AddCurveWindow(frmCrestCurve* window);
+    QMdiSubWindow* AddCurveWindow(frmCrestCurve& window);
     void MDIForm_Unload();
     void RestorePlacement();
 

@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(
         WindowCase{"CurveWindow", [](UiTest& t, frmMain&) -> QWidget* { return &static_cast<CaptionsFitTest&>(t).Curve(); }},
         WindowCase{"ElevationsWindow",
                    [](UiTest& t, frmMain& main) -> QWidget* {
-                       return main.Slots().ElevationsWindowOf(static_cast<CaptionsFitTest&>(t).Curve().Slot());
+                       return main.Slots()[static_cast<CaptionsFitTest&>(t).Curve().Slot()].elevationsWindow.get();
                    }},
         WindowCase{"AutoStationingDialog",
                    [](UiTest& t, frmMain&) -> QWidget* { return static_cast<CaptionsFitTest&>(t).AutoStation(); }},

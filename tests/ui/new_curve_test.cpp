@@ -35,7 +35,7 @@ TEST_F(NewCurveTest, TheUnitsDialogOffersTheLastChoiceAndTitlesTheWindowByIt) {
     frmCrestCurve* metric = answer(nullptr);
     ASSERT_NE(metric, nullptr);
     EXPECT_EQ(metric->windowTitle(), "Vertical Curve - Metric: Untitled");
-    EXPECT_FALSE(main.Slots().State(1).changed);
+    EXPECT_FALSE(main.Slots()[1].changed);
     answer("optEnglish");
     frmCrestCurve* english = answer(nullptr);
     EXPECT_EQ(english->windowTitle(), "Vertical Curve - English: Untitled");

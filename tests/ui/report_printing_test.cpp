@@ -11,7 +11,7 @@
 #include "core/report.h"
 #include "platform/scripted_platform.h"
 #include "print/clock_text.h"
-#include "print/curve_report.h"
+#include "commands/print_command.h"
 #include "print/page_printer.h"
 #include "print/report_copies.h"
 

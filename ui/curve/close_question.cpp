@@ -15,18 +15,17 @@
 namespace gw {
 
 void frmCrestCurve::Form_QueryUnload(bool& cancel) {
-    if (!m_slots.State(m_slot).changed) return;
+    if (!m_slot.changed) return;
 
-    // Saving writes the active curve window, so the window being closed comes to the
-    // front first; the user also sees which curve is meant.
+    // The window being closed comes to the front first: the user sees which curve
+    // is meant, and it is the active curve window that Save writes.
     if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) {
         if (QMdiArea* area = sub->mdiArea(); area && area->activeSubWindow() != sub) area->setActiveSubWindow(sub);
     }
 
-    const std::string title = FileNameBytes(windowTitle());
     MessageRequest question;
     question.title = AppTitle();
-    question.text = FileNameFromBytes(CloseQuestion(CurveNameFromTitle(title)));
+    question.text = FileNameFromBytes(CloseQuestion(CurveNameFromTitle(FileNameBytes(windowTitle()))));
     question.buttons = MessageButtons::YesNoCancel;
     question.defaultButton = MessageButton::Yes;
     question.icon = MessageIcon::Exclamation;
@@ -35,19 +34,9 @@ void frmCrestCurve::Form_QueryUnload(bool& cancel) {
         cancel = true;
         return;
     }
-    CurveSaver* saver = m_slots.Saver();
-    if (answer != MessageButton::Yes || !saver) return;
-
-    QString path;
-    if (IsUntitledTitle(title)) {
-        path = saver->ShowSaveAsDialog(QStringLiteral("untitled"));
-        if (!path.isEmpty()) setWindowTitle(FileNameFromBytes(TitleAfterSave(title, FileNameBytes(path))));
-    } else {
-        path = FileNameFromBytes(PathFromTitle(title));
-    }
-    // The cancel flag is left alone: after a cancelled dialog or a failed write the
+    // The cancel flag is left alone: after a cancelled Save As or a failed write the
     // curve closes unsaved, and the user has been told of a failure by its box.
-    if (!path.isEmpty()) saver->WriteCurveFile(path, windowTitle());
+    if (answer == MessageButton::Yes) m_saver.SaveBeforeClosing(*this);
 }
 
 }  // namespace gw

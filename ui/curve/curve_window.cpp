@@ -52,9 +52,9 @@ bool IsLabel(const CurveField& field) {
 
 }  // namespace
 
-frmCrestCurve::frmCrestCurve(WindowSlots& windowSlots, int slot, const QString& unitSystem, Platform& platform,
+frmCrestCurve::frmCrestCurve(WindowSlot& slot, const QString& unitSystem, CurveSaver& saver, Platform& platform,
                              QWidget* parent)
-    : QWidget(parent), m_slots(windowSlots), m_platform(platform), m_slot(slot) {
+    : QWidget(parent), m_slot(slot), m_saver(saver), m_platform(platform) {
     setObjectName(QStringLiteral("frmCrestCurve"));
     setWindowTitle(QString::fromLatin1(kDesignCaption));
     setFixedSize(kClientSize);
@@ -65,9 +65,11 @@ frmCrestCurve::frmCrestCurve(WindowSlots& windowSlots, int slot, const QString& 
     BuildControls();
     WatchLeaveChecks();
     m_lblMorF->setText(unitSystem);
-    m_slots.SetCurveWindow(m_slot, this);
+    m_slot.curveWindow = this;
     optPVI_Click();
 }
+
+int frmCrestCurve::Slot() const { return m_slot.number; }
 
 template <class Widget>
 Widget* frmCrestCurve::ControlOf(const CurveField& field) const {
@@ -101,7 +103,7 @@ void frmCrestCurve::BuildControls() {
             edit->setToolTip(ToQString(field.text));
             // A limit on typing only: a result the program writes keeps every digit.
             if (field.limit > 0) SetTypingLimit(*edit, field.limit);
-            OnUserEdit(*edit, [this] { m_slots.State(m_slot).changed = true; });
+            OnUserEdit(*edit, [this] { m_slot.changed = true; });
             control = edit;
         }
         control->setObjectName(ToQString(field.name));
@@ -170,8 +172,8 @@ CurveSheet frmCrestCurve::GatherSheet() const {
             TextOf(sheet, *field) = static_cast<QLineEdit*>(control)->text().toStdString();
         }
     }
-    sheet.elevations = m_slots.Elevations(m_slot);
-    sheet.changed = m_slots.State(m_slot).changed;
+    sheet.elevations = m_slot.elevationsWindow->Table();
+    sheet.changed = m_slot.changed;
     return sheet;
 }
 
@@ -186,8 +188,8 @@ void frmCrestCurve::ScatterSheet(const CurveSheet& sheet) {
             edit->setText(text);
         }
     }
-    m_slots.Elevations(m_slot) = sheet.elevations;
-    m_slots.State(m_slot).changed = sheet.changed;
+    m_slot.elevationsWindow->ShowTable(sheet.elevations);
+    m_slot.changed = sheet.changed;
     m_picture->SetMetric(IsMetric(sheet.lblMorF));
 }
 
@@ -266,10 +268,8 @@ void frmCrestCurve::cmdMoreTOS_Click() {
     cmdCalcP_Click();
     const CurveSheet sheet = GatherSheet();
     if (!IsNumericText(sheet.txtPVCSTA) && !IsNumericText(sheet.txtPVCSTAM)) return;
-    if (ElevationsWindow* elevations = m_slots.ElevationsWindowOf(m_slot)) {
-        m_platform.ShowModal(*elevations);
-        ComeBack(*this);
-    }
+    m_slot.elevationsWindow->ShowFor(sheet);
+    ComeBack(*this);
 }
 
 void frmCrestCurve::Report(const Refusal& refusal) {

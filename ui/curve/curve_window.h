@@ -22,20 +22,22 @@ class QRadioButton;
 namespace gw {
 
 class CurvePicture;
+class CurveSaver;
 class Platform;
-class WindowSlots;
+struct WindowSlot;
 
 class frmCrestCurve : public QWidget {
     Q_OBJECT
 
 public:
-    // Form_Load: takes the unit system ("Metric" or "English"), enters the PVI mode
-    // and empties itself and the slot's elevations.
-    frmCrestCurve(WindowSlots& windowSlots, int slot, const QString& unitSystem, Platform& platform,
+    // Form_Load: takes its slot and the unit system ("Metric" or "English"), enters
+    // the PVI mode and empties itself and the slot's elevations. `saver` saves the
+    // curve when the close question is answered Yes.
+    frmCrestCurve(WindowSlot& slot, const QString& unitSystem, CurveSaver& saver, Platform& platform,
                   QWidget* parent = nullptr);
 
-    int Slot() const { return m_slot; }
-    QString Tag() const { return QString::number(m_slot); }
+    int Slot() const;
+    QString Tag() const { return QString::number(Slot()); }
     QString UnitSystem() const;
     // The text field of that name; any other name throws.
     QLineEdit* Field(std::string_view name) const;
@@ -72,9 +74,9 @@ private:
     void Form_QueryUnload(bool& cancel);
     void Form_Unload();
 
-    WindowSlots& m_slots;
+    WindowSlot& m_slot;
+    CurveSaver& m_saver;
     Platform& m_platform;
-    const int m_slot;
 
     std::vector<std::pair<const CurveField*, QWidget*>> m_controls;  // in table order
     QRadioButton* m_optPVI = nullptr;

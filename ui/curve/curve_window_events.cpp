@@ -21,7 +21,7 @@ bool frmCrestCurve::eventFilter(QObject* watched, QEvent* event) {
 
 bool frmCrestCurve::Form_KeyPress(QLineEdit* field, QKeyEvent* key) {
     if (!ProducesCharacter(*key)) return false;
-    m_slots.State(m_slot).changed = true;
+    m_slot.changed = true;
     if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) return false;
     // Enter runs Calc in every text field but the four that are results in both modes.
     for (const auto& [row, control] : m_controls) {
@@ -46,8 +46,8 @@ void frmCrestCurve::closeEvent(QCloseEvent* event) {
 }
 
 void frmCrestCurve::Form_Unload() {
-    m_slots.Release(m_slot);
-    m_slots.SetCurveWindow(m_slot, nullptr);
+    m_slot.free = true;
+    m_slot.curveWindow = nullptr;
 }
 
 }  // namespace gw

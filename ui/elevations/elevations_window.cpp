@@ -19,7 +19,6 @@
 #include "ui/common/typing_limit.h"
 #include "ui/common/user_edits.h"
 #include "ui/elevations/auto_station_dialog.h"
-#include "ui/elevations/elevations_slot.h"
 
 namespace gw {
 namespace {
@@ -55,9 +54,9 @@ void AddLabel(QWidget* parent, const char* name, const char* text, const Rect& p
 
 }  // namespace
 
-ElevationsWindow::ElevationsWindow(ElevationsSlot& slot, Platform& platform, AutoStationDialog& autoStation,
-                                   QWidget* parent)
-    : QDialog(parent), m_slot(slot), m_platform(platform), m_autoStation(autoStation) {
+ElevationsWindow::ElevationsWindow(Platform& platform, AutoStationDialog& autoStation,
+                                   std::function<void()> markChanged, QWidget* parent)
+    : QDialog(parent), m_platform(platform), m_autoStation(autoStation), m_markChanged(std::move(markChanged)) {
     SetUpFixedDialog(*this, "frmTS", QString::fromLatin1(kCaption), QSize(520, 398));
     m_checks = new LeaveChecks(platform, *this);
     BuildControls();
@@ -77,7 +76,7 @@ void ElevationsWindow::BuildControls() {
             if (field.limit > 0) SetTypingLimit(*edit, field.limit);
             if (!IsInput(field)) StyleAsResult(*edit);
             edit->installEventFilter(this);
-            OnUserEdit(*edit, [this] { m_slot.MarkChanged(); });
+            OnUserEdit(*edit, [this] { m_markChanged(); });
             m_controls.push_back({&field, row, edit});
         }
     }
@@ -162,25 +161,37 @@ QLineEdit* ElevationsWindow::RowField(std::string_view name, int row) const {
     return ControlOf(ElevationFieldNamed(name), row);
 }
 
+ElevationTable ElevationsWindow::Table() const {
+    ElevationTable table;
+    for (const Control& c : m_controls) TextOf(table, *c.field, c.row) = c.edit->text().toStdString();
+    table.bCalcOK = m_bCalcOK;
+    return table;
+}
+
+void ElevationsWindow::ShowTable(const ElevationTable& table) {
+    for (const Control& c : m_controls) {
+        const QString text = ToQString(TextOf(table, *c.field, c.row));
+        if (c.edit->text() != text) c.edit->setText(text);
+    }
+    m_bCalcOK = table.bCalcOK;
+}
+
+void ElevationsWindow::ShowFor(const CurveSheet& curve) {
+    m_curve = curve;
+    m_platform.ShowModal(*this);
+}
+
 CurveSheet ElevationsWindow::Gather() const {
-    CurveSheet sheet = m_slot.CurveFields();
-    for (const Control& c : m_controls) TextOf(sheet.elevations, *c.field, c.row) = c.edit->text().toStdString();
-    sheet.elevations.bCalcOK = m_bCalcOK;
+    CurveSheet sheet = m_curve;
+    sheet.elevations = Table();
     sheet.changed = false;
     return sheet;
 }
 
 void ElevationsWindow::Scatter(const CurveSheet& sheet) {
-    for (const Control& c : m_controls) {
-        const QString text = ToQString(TextOf(sheet.elevations, *c.field, c.row));
-        if (c.edit->text() != text) c.edit->setText(text);
-    }
-    m_bCalcOK = sheet.elevations.bCalcOK;
-    if (sheet.changed) m_slot.MarkChanged();
-    Store();
+    ShowTable(sheet.elevations);
+    if (sheet.changed) m_markChanged();
 }
-
-void ElevationsWindow::Store() { m_slot.Table() = Gather().elevations; }
 
 void ElevationsWindow::Report(const Outcome& outcome) {
     if (outcome) Refuse(m_platform, *this, {ToQString(outcome->message)}, *RowField(outcome->field, outcome->row));
@@ -194,11 +205,6 @@ void ElevationsWindow::SetUnitLabels(const CurveSheet& curve) {
 
 void ElevationsWindow::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    // The slot's stored texts are what the window shows; then the activation rules run.
-    CurveSheet sheet = m_slot.CurveFields();
-    sheet.elevations = m_slot.Table();
-    sheet.changed = false;
-    Scatter(sheet);
     Form_Activate();
 }
 
@@ -250,10 +256,7 @@ void ElevationsWindow::cmdAutoStation_Click() {
 void ElevationsWindow::closeEvent(QCloseEvent* event) {
     // Closing by the close box unloads the window: its rows, offsets and station
     // copies are gone, and the next showing starts empty.
-    CurveSheet empty = m_slot.CurveFields();
-    empty.elevations = ElevationTable{};
-    empty.changed = false;
-    Scatter(empty);
+    ShowTable(ElevationTable{});
     QDialog::closeEvent(event);
 }
 
@@ -268,7 +271,7 @@ void ElevationsWindow::keyPressEvent(QKeyEvent* event) {
 
 bool ElevationsWindow::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress && ProducesCharacter(*static_cast<QKeyEvent*>(event))) {
-        m_slot.MarkChanged();
+        m_markChanged();
     }
     return QDialog::eventFilter(watched, event);
 }

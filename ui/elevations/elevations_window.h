@@ -1,10 +1,10 @@
 #pragma once
 // frmTS: the modal window that lists twenty stations along a curve with their
 // elevations. It has one field for each row of the elevations window's table (twenty
-// for a column); its texts are the slot's elevation table: loaded when it is shown,
-// written back after every command and when it hides.
+// for a column), and they hold the curve's rows and offsets while it is hidden.
 
 #include <QDialog>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -19,7 +19,6 @@ class QPushButton;
 namespace gw {
 
 class AutoStationDialog;
-class ElevationsSlot;
 class LeaveChecks;
 class Platform;
 
@@ -27,8 +26,17 @@ class ElevationsWindow : public QDialog {
     Q_OBJECT
 
 public:
-    ElevationsWindow(ElevationsSlot& slot, Platform& platform, AutoStationDialog& autoStation,
+    // `markChanged` marks the curve changed, as typing in the window and its
+    // commands do.
+    ElevationsWindow(Platform& platform, AutoStationDialog& autoStation, std::function<void()> markChanged,
                      QWidget* parent = nullptr);
+
+    // What the fields hold, and the texts a command of the curve window puts there.
+    ElevationTable Table() const;
+    void ShowTable(const ElevationTable& table);
+    // Calculate Elevations: the window shown modally over the curve it belongs to,
+    // which cannot change while it is shown.
+    void ShowFor(const CurveSheet& curve);
 
     // Form_Activate: runs every time the window is shown.
     void Form_Activate();
@@ -66,12 +74,12 @@ private:
     // One command: the curve and these fields in, the core's result out.
     CurveSheet Gather() const;
     void Scatter(const CurveSheet& sheet);
-    void Store();
     void Report(const Outcome& outcome);
 
-    ElevationsSlot& m_slot;
     Platform& m_platform;
     AutoStationDialog& m_autoStation;
+    std::function<void()> m_markChanged;
+    CurveSheet m_curve;  // the curve's fields, as the window was shown for them
     LeaveChecks* m_checks = nullptr;
 
     std::vector<Control> m_controls;  // in table order, a column row by row
