@@ -16,8 +16,8 @@
 #include <fstream>
 #include <string>
 
-#include "core/curve_file.h"
 #include "commands/file_commands.h"
+#include "core/curve_file.h"
 #include "platform/scripted_platform.h"
 #include "shell/main_menus.h"
 #include "shell/main_window.h"

@@ -1,10 +1,10 @@
-#include "about_box.h"
+#include "shell/about_box.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-#include "app_icon.h"
+#include "shell/app_icon.h"
 #include "ui/common/layout.h"
 
 namespace gw {

@@ -6,12 +6,11 @@
 #include <memory>
 
 #include "commands/curve_window_host.h"
-#include "main_menus.h"
-#include "placement.h"
+#include "shell/main_menus.h"
+#include "shell/placement.h"
 #include "ui/curve/window_slots.h"
 
 class QMdiArea;
-class QMdiSubWindow;
 
 namespace gw {
 
@@ -51,8 +50,6 @@ public:
     void mnuRecentFile_Click(int index);
     // The curve files named at start-up, each opened as Open opens a chosen file.
     void OpenFiles(const QStringList& paths);
-    FileCommands& Files() { return *m_files; }
-    RecentFilesMenu& RecentFileMenu() { return *m_recent; }
     void mnuFileExit_Click();
     void mnuCloseAll_Click();
     void mnuWindowCascade_Click();
@@ -72,8 +69,6 @@ protected:
 
 private:
     void ConnectMenus();
-    void ConnectFileMenu();
-    QMdiSubWindow* AddCurveWindow(frmCrestCurve& window);
     void MDIForm_Unload();
     void RestorePlacement();
 

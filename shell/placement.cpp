@@ -1,4 +1,4 @@
-#include "placement.h"
+#include "shell/placement.h"
 
 #include <cmath>
 #include <string>

@@ -13,8 +13,8 @@
 
 #include "shell/about_box.h"
 #include "shell/units_dialog.h"
+#include "tests/ui/ui_fixture.h"
 #include "ui/elevations/auto_station_dialog.h"
-#include "ui_fixture.h"
 
 namespace gw::test {
 namespace {

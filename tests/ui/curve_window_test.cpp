@@ -12,7 +12,7 @@
 #include <cstring>
 #include <memory>
 
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

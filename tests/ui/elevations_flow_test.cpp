@@ -3,7 +3,7 @@
 
 #include <QRadioButton>
 
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 #include "ui/elevations/auto_station_dialog.h"
 
 namespace gw::test {

@@ -9,7 +9,7 @@
 #include <sys/resource.h>
 
 #include "core/curve_file.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -10,7 +10,7 @@
 #include <QTest>
 
 #include "shell/status_bar.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -8,7 +8,7 @@
 
 #include "shell/units_dialog.h"
 #include "tests/qt_test_printers.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "typing_limit.h"
+#include "ui/common/typing_limit.h"
 
 #include <QLineEdit>
 #include <algorithm>
