@@ -6,6 +6,7 @@
 
 #include "core/stations.h"
 #include "platform/texts.h"
+#include "ui/common/controls.h"
 #include "ui/common/layout.h"
 
 namespace gw {
@@ -25,13 +26,9 @@ frmInformation::frmInformation(QWidget* parent) : QDialog(parent) {
     m_optEnglish->setObjectName(QStringLiteral("optEnglish"));
     m_optEnglish->setGeometry(Twips(120, 720, 1095, 255));
 
-    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setGeometry(Twips(120, 1800, 735, 375));
+    QPushButton* ok = &AddButton(*this, "cmdOK", QStringLiteral("&OK"), Twips(120, 1800, 735, 375));
     ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    cancel->setGeometry(Twips(960, 1800, 735, 375));
+    QPushButton* cancel = &AddButton(*this, "cmdCancel", QStringLiteral("&Cancel"), Twips(960, 1800, 735, 375));
     connect(ok, &QPushButton::clicked, this, &frmInformation::cmdOK_Click);
     connect(cancel, &QPushButton::clicked, this, &frmInformation::cmdCancel_Click);
 

@@ -13,10 +13,10 @@
 #include "core/numbers.h"
 #include "platform/platform.h"
 #include "platform/texts.h"
+#include "ui/common/controls.h"
 #include "ui/common/field_style.h"
 #include "ui/common/layout.h"
 #include "ui/common/leave_checks.h"
-#include "ui/common/typing_limit.h"
 #include "ui/common/user_edits.h"
 #include "ui/curve/curve_picture.h"
 #include "ui/curve/window_slots.h"
@@ -91,23 +91,18 @@ void frmCrestCurve::BuildControls() {
 
     for (const CurveField& field : kCurveFields) {
         QWidget* control = nullptr;
-        QRect place = ToQRect(field.place);
         if (field.kind == CurveFieldKind::Option) {
             // Drawn round by Frame1, which holds them.
             control = new QRadioButton(ToQString(field.text), frame1);
-            place.translate(-kFrame1.topLeft());
+            control->setObjectName(ToQString(field.name));
+            control->setGeometry(ToQRect(field.place).translated(-kFrame1.topLeft()));
         } else if (IsLabel(field)) {
-            control = new QLabel(this);
+            control = &AddLabel(*this, field.name, {}, ToQRect(field.place));
         } else {
-            auto* edit = new QLineEdit(this);
-            edit->setToolTip(ToQString(field.text));
-            // A limit on typing only: a result the program writes keeps every digit.
-            if (field.limit > 0) SetTypingLimit(*edit, field.limit);
-            OnUserEdit(*edit, [this] { m_slot.changed = true; });
-            control = edit;
+            QLineEdit& edit = AddTextField(*this, field.name, field.place, field.text, field.limit);
+            OnUserEdit(edit, [this] { m_slot.changed = true; });
+            control = &edit;
         }
-        control->setObjectName(ToQString(field.name));
-        control->setGeometry(place);
         if (!field.accessibleName.empty()) control->setAccessibleName(ToQString(field.accessibleName));
         // The window sees every key before the control that has the focus.
         if (!IsLabel(field)) control->installEventFilter(this);
@@ -121,21 +116,15 @@ void frmCrestCurve::BuildControls() {
     m_picture->SetKindLabel(m_lblSDL);
     connect(m_optPVI, &QRadioButton::clicked, this, &frmCrestCurve::optPVI_Click);
     connect(m_optPVCPVT, &QRadioButton::clicked, this, &frmCrestCurve::optPVCPVT_Click);
-
-    for (auto [name, place] : {std::pair{"lblpercent1", kPercent1}, std::pair{"lblpercent2", kPercent2}}) {
-        auto* percent = new QLabel(QStringLiteral("%"), this);
-        percent->setObjectName(QString::fromLatin1(name));
-        percent->setGeometry(place);
-    }
+    AddLabel(*this, "lblpercent1", QStringLiteral("%"), kPercent1);
+    AddLabel(*this, "lblpercent2", QStringLiteral("%"), kPercent2);
 
     auto button = [this](const char* name, const char* caption, const QRect& place, void (frmCrestCurve::*click)()) {
-        auto* b = new QPushButton(QString::fromLatin1(caption), this);
-        b->setObjectName(QString::fromLatin1(name));
-        b->setGeometry(place);
-        b->setAutoDefault(false);
-        b->installEventFilter(this);
-        connect(b, &QPushButton::clicked, this, click);
-        return b;
+        QPushButton& b = AddButton(*this, name, QString::fromLatin1(caption), place);
+        b.setAutoDefault(false);
+        b.installEventFilter(this);
+        connect(&b, &QPushButton::clicked, this, click);
+        return &b;
     };
     m_cmdCalcP = button("cmdCalcP", "", kCmdCalcP, &frmCrestCurve::cmdCalcP_Click);
     m_cmdClear = button("cmdClear", kClear, kCmdClear, &frmCrestCurve::cmdClear_Click);

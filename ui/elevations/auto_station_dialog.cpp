@@ -1,7 +1,6 @@
 #include "ui/elevations/auto_station_dialog.h"
 
 #include <QGroupBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -9,10 +8,10 @@
 
 #include "platform/platform.h"
 #include "platform/texts.h"
+#include "ui/common/controls.h"
 #include "ui/common/field_style.h"
 #include "ui/common/layout.h"
 #include "ui/common/leave_checks.h"
-#include "ui/common/typing_limit.h"
 
 namespace gw {
 namespace {
@@ -60,29 +59,15 @@ void AutoStationDialog::BuildControls() {
     connect(m_optIncrements, &QRadioButton::clicked, this, &AutoStationDialog::optIncrements_Click);
     connect(m_optSpacing, &QRadioButton::clicked, this, &AutoStationDialog::optSpacing_Click);
 
-    for (const Caption& c : kCaptions) {
-        auto* label = new QLabel(QString::fromLatin1(c.text), this);
-        label->setObjectName(QString::fromLatin1(c.name));
-        label->setGeometry(c.place);
-    }
+    for (const Caption& c : kCaptions) AddLabel(*this, c.name, QString::fromLatin1(c.text), c.place);
     for (const AutoStationField& field : kAutoStationFields) {
-        auto* edit = new QLineEdit(this);
-        edit->setObjectName(ToQString(field.name));
-        edit->setAccessibleName(edit->objectName());
-        edit->setGeometry(ToQRect(field.place));
-        // A limit on typing only: the beginning station the dialog proposes is the
-        // curve's and keeps every digit.
-        if (field.limit > 0) SetTypingLimit(*edit, field.limit);
-        edit->setToolTip(ToQString(field.tooltip));
-        m_fields.emplace_back(&field, edit);
+        QLineEdit& edit = AddTextField(*this, field.name, field.place, field.tooltip, field.limit);
+        edit.setAccessibleName(edit.objectName());
+        m_fields.emplace_back(&field, &edit);
     }
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName("OKButton");
-    ok->setGeometry(88, 192, 57, 25);
-    auto* cancel = new QPushButton(QStringLiteral("Cancel"), this);
-    cancel->setObjectName("CancelButton");
-    cancel->setGeometry(152, 192, 57, 25);
+    QPushButton* ok = &AddButton(*this, "OKButton", QStringLiteral("OK"), {88, 192, 57, 25});
+    QPushButton* cancel = &AddButton(*this, "CancelButton", QStringLiteral("Cancel"), {152, 192, 57, 25});
     // Cancel is both the default and the cancel button: Enter in a field cancels,
     // while a button that has the focus takes Enter itself.
     ok->setAutoDefault(true);

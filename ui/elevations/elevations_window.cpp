@@ -12,11 +12,11 @@
 #include "core/elevations.h"
 #include "platform/platform.h"
 #include "platform/texts.h"
+#include "ui/common/controls.h"
 #include "ui/common/field_style.h"
 #include "ui/common/layout.h"
 #include "ui/common/leave_checks.h"
 #include "ui/common/on_screen.h"
-#include "ui/common/typing_limit.h"
 #include "ui/common/user_edits.h"
 #include "ui/elevations/auto_station_dialog.h"
 
@@ -41,15 +41,11 @@ constexpr Caption kCaptions[] = {
 };
 // Beside each row's plus part and elevation, as in row 0.
 constexpr Caption kRowCaptions[] = {{"", "+", {64, 112, 0, 0}}, {"", "=", {136, 112, 0, 0}}};
-const char* const kCaption = "Elevations";
 const char* const kMetres = "(m)";
 const char* const kFeet = "(ft)";
 
-void AddLabel(QWidget* parent, const char* name, const char* text, const Rect& place) {
-    auto* label = new QLabel(QString::fromLatin1(text), parent);
-    label->setObjectName(QString::fromLatin1(name));
-    label->move(place.left, place.top);
-    label->adjustSize();
+void AddCaption(QWidget& window, const Caption& c, int row = 0) {
+    AddLabel(window, c.name, QString::fromLatin1(c.text), ToQRect(PlaceInRow(c.place, row)));
 }
 
 }  // namespace
@@ -57,46 +53,35 @@ void AddLabel(QWidget* parent, const char* name, const char* text, const Rect& p
 ElevationsWindow::ElevationsWindow(Platform& platform, AutoStationDialog& autoStation,
                                    std::function<void()> markChanged, QWidget* parent)
     : QDialog(parent), m_platform(platform), m_autoStation(autoStation), m_markChanged(std::move(markChanged)) {
-    SetUpFixedDialog(*this, "frmTS", QString::fromLatin1(kCaption), QSize(520, 398));
+    SetUpFixedDialog(*this, "frmTS", QStringLiteral("Elevations"), QSize(520, 398));
     m_checks = new LeaveChecks(platform, *this);
     BuildControls();
     WatchRowChecks();
 }
 
 void ElevationsWindow::BuildControls() {
-    for (const Caption& c : kCaptions) AddLabel(this, c.name, c.text, c.place);
+    for (const Caption& c : kCaptions) AddCaption(*this, c);
     for (const ElevationField& field : kElevationFields) {
         for (int row = 0; row < (IsColumn(field) ? kRowCount : 1); ++row) {
-            auto* edit = new QLineEdit(this);
-            edit->setObjectName(ToQString(field.name));
-            edit->setAccessibleName(IsColumn(field) ? edit->objectName() + QString("(%1)").arg(row) : edit->objectName());
-            edit->setGeometry(ToQRect(PlaceInRow(field, row)));
-            edit->setToolTip(ToQString(field.tooltip));
-            // A limit on typing only: the station copies are the program's and keep every digit.
-            if (field.limit > 0) SetTypingLimit(*edit, field.limit);
-            if (!IsInput(field)) StyleAsResult(*edit);
-            edit->installEventFilter(this);
-            OnUserEdit(*edit, [this] { m_markChanged(); });
-            m_controls.push_back({&field, row, edit});
+            QLineEdit& edit = AddTextField(*this, field.name, PlaceInRow(field, row), field.tooltip, field.limit);
+            edit.setAccessibleName(IsColumn(field) ? edit.objectName() + QString("(%1)").arg(row) : edit.objectName());
+            if (!IsInput(field)) StyleAsResult(edit);
+            edit.installEventFilter(this);
+            OnUserEdit(edit, [this] { m_markChanged(); });
+            m_controls.push_back({&field, row, &edit});
         }
     }
     for (int row = 0; row < kRowCount; ++row) {
-        for (const Caption& c : kRowCaptions) AddLabel(this, c.name, c.text, PlaceInRow(c.place, row));
+        for (const Caption& c : kRowCaptions) AddCaption(*this, c, row);
     }
-    m_lblvoffsetm = new QLabel(this);
-    m_lblvoffsetm->setObjectName("lblvoffsetm");
-    m_lblvoffsetm->setGeometry(144, 59, 40, 17);
-    m_lblhoffsetm = new QLabel(this);
-    m_lblhoffsetm->setObjectName("lblhoffsetm");
-    m_lblhoffsetm->setGeometry(293, 59, 28, 17);
+    m_lblvoffsetm = &AddLabel(*this, "lblvoffsetm", {}, {144, 59, 40, 17});
+    m_lblhoffsetm = &AddLabel(*this, "lblhoffsetm", {}, {293, 59, 28, 17});
     auto* line = new QFrame(this);
     line->setFrameShape(QFrame::VLine);
     line->setGeometry(kColumnShift - 1, 112, 3, 344 - 112);
 
     auto button = [this](const char* name, const char* caption, const QRect& place, void (ElevationsWindow::*click)()) {
-        auto* b = new QPushButton(QString::fromLatin1(caption), this);
-        b->setObjectName(name);
-        b->setGeometry(place);
+        QPushButton* b = &AddButton(*this, name, QString::fromLatin1(caption), place);
         b->installEventFilter(this);
         connect(b, &QPushButton::clicked, this, click);
         return b;

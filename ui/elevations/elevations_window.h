@@ -45,7 +45,6 @@ public:
     void cmdClear_Click();
     void cmdAutoStation_Click();
 
-    bool CalcOK() const { return m_bCalcOK; }
     // The field of its own, or a column's field in a row, of that name; any other
     // name or row throws.
     QLineEdit* Field(std::string_view name) const;
