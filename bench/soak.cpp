@@ -16,8 +16,8 @@
 #include <fstream>
 #include <string>
 
+#include "commands/file_commands.h"
 #include "core/curve_file.h"
-#include "files/commands/file_commands.h"
 #include "platform/scripted_platform.h"
 #include "shell/main_menus.h"
 #include "shell/main_window.h"

@@ -1,21 +1,38 @@
-#include "auto_stationing.h"
+#include "core/auto_stationing.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
 
-#include "elevations.h"
-#include "field_checks.h"
-#include "messages.h"
-#include "numbers.h"
-#include "station_steps.h"
-#include "stations.h"
+#include "core/elevations.h"
+#include "core/field_checks.h"
+#include "core/messages.h"
+#include "core/numbers.h"
+#include "core/station_steps.h"
+#include "core/stations.h"
 
 namespace gw {
+
+constexpr std::array<AutoStationField, 5> kAutoStationFields = {{
+    // name, value, kind, place (left, top, width, height), tooltip, limit
+    {"txtBeginSTA", &AutoStationing::txtBeginSTA, AutoStationFieldKind::BeginStation, {104, 120, 33, 19},
+     "Beginning station", 5},
+    {"txtPoints", &AutoStationing::txtPoints, AutoStationFieldKind::Points, {128, 80, 33, 19},
+     "Number of points between PVC and PVT station", 2},
+    {"txtBeginSTAM", &AutoStationing::txtBeginSTAM, AutoStationFieldKind::BeginPlus, {160, 120, 49, 19},
+     "Beginning station", 0},
+    {"txtIncSTA", &AutoStationing::txtIncSTA, AutoStationFieldKind::IncrementStation, {104, 152, 33, 19}, "", 5},
+    {"txtIncSTAM", &AutoStationing::txtIncSTAM, AutoStationFieldKind::IncrementPlus, {160, 152, 49, 19}, "", 0},
+}};
+
+bool IsInputIn(const AutoStationField& field, bool spacing) {
+    return (field.kind == AutoStationFieldKind::Points) != spacing;
+}
+
 namespace {
 
-Refusal Refuse(std::string_view message, std::string_view field) {
-    return Refusal{std::string(message), std::string(field)};
+Refusal Refuse(std::string_view message, std::string AutoStationing::*field) {
+    return Refusal{std::string(message), std::string(RowOf(kAutoStationFields, field).name)};
 }
 
 // One row per station, from the first row on.
@@ -53,51 +70,46 @@ void AutoStationing::ChooseSpacing(const ElevationTable& table) {
     ipoints = 0;
 }
 
-std::string* AutoStationing::Field(std::string_view name) {
-    if (name == "txtPoints") return &txtPoints;
-    if (name == "txtBeginSTA") return &txtBeginSTA;
-    if (name == "txtBeginSTAM") return &txtBeginSTAM;
-    if (name == "txtIncSTA") return &txtIncSTA;
-    if (name == "txtIncSTAM") return &txtIncSTAM;
-    return nullptr;
-}
+std::string* AutoStationing::Field(std::string_view name) { return &(this->*AutoStationFieldNamed(name).value); }
 
 const std::string* AutoStationing::Field(std::string_view name) const {
-    return const_cast<AutoStationing*>(this)->Field(name);
+    return &(this->*AutoStationFieldNamed(name).value);
 }
 
-std::vector<std::string_view> AutoStationing::CheckOnLeave(std::string_view field) const {
+std::vector<std::string_view> AutoStationing::CheckOnLeave(const AutoStationField& field) const {
     std::vector<std::string_view> out;
-    const std::string* text = Field(field);
-    if (!text || text->empty()) return out;
-    const bool numeric = IsNumericText(*text);
-    const double value = ReadNumber(*text);
-
-    if (field == "txtPoints") {
-        if (optSpacing) return out;
-        if (!numeric) out.push_back(msg::kMustBeNumeric);
-        if (value > 20) out.push_back(msg::kPointsOver20);
-        return out;
-    }
-    if (!optSpacing) return out;
-    if (field == "txtBeginSTA") {
-        if (!numeric) out.push_back(msg::kMustBeNumeric);
-        if (ReadNumber(pvcSTA) > value) out.push_back(msg::kAtLeastPVC);
-        if (ReadNumber(pvtSTA) < value) out.push_back(msg::kAtMostPVT);
-    } else if (field == "txtBeginSTAM") {
-        if (!numeric) return {msg::kMustBeNumeric};
-        if (auto tooLarge = PlusPartTooLarge(value, unitSystem)) return {*tooLarge};
-        const double b = JoinStation(txtBeginSTA, txtBeginSTAM, unitSystem);
-        if (b == 0) return out;
-        double low = JoinStation(pvcSTA, pvcSTAM, unitSystem);
-        double high = JoinStation(pvtSTA, pvtSTAM, unitSystem);
-        if (low > high) std::swap(low, high);
-        if (b < low || b > high) out.push_back(msg::kBeginOffCurveField);
-    } else if (field == "txtIncSTA") {
-        if (!numeric) out.push_back(msg::kMustBeNumeric);
-    } else if (field == "txtIncSTAM") {
-        if (!numeric) return {msg::kMustBeNumeric};
-        if (auto tooLarge = PlusPartTooLarge(value, unitSystem)) out.push_back(*tooLarge);
+    const std::string& text = this->*field.value;
+    if (text.empty() || !IsInputIn(field, optSpacing)) return out;
+    const bool numeric = IsNumericText(text);
+    const double value = ReadNumber(text);
+    switch (field.kind) {
+        case AutoStationFieldKind::Points:
+            if (!numeric) out.push_back(msg::kMustBeNumeric);
+            if (value > 20) out.push_back(msg::kPointsOver20);
+            break;
+        case AutoStationFieldKind::BeginStation:
+            if (!numeric) out.push_back(msg::kMustBeNumeric);
+            if (ReadNumber(pvcSTA) > value) out.push_back(msg::kAtLeastPVC);
+            if (ReadNumber(pvtSTA) < value) out.push_back(msg::kAtMostPVT);
+            break;
+        case AutoStationFieldKind::BeginPlus: {
+            if (!numeric) return {msg::kMustBeNumeric};
+            if (auto tooLarge = PlusPartTooLarge(value, unitSystem)) return {*tooLarge};
+            const double b = JoinStation(txtBeginSTA, txtBeginSTAM, unitSystem);
+            if (b == 0) return out;
+            double low = JoinStation(pvcSTA, pvcSTAM, unitSystem);
+            double high = JoinStation(pvtSTA, pvtSTAM, unitSystem);
+            if (low > high) std::swap(low, high);
+            if (b < low || b > high) out.push_back(msg::kBeginOffCurveField);
+            break;
+        }
+        case AutoStationFieldKind::IncrementStation:
+            if (!numeric) out.push_back(msg::kMustBeNumeric);
+            break;
+        case AutoStationFieldKind::IncrementPlus:
+            if (!numeric) return {msg::kMustBeNumeric};
+            if (auto tooLarge = PlusPartTooLarge(value, unitSystem)) out.push_back(*tooLarge);
+            break;
     }
     return out;
 }
@@ -107,15 +119,15 @@ Outcome AutoStationing::Accept() {
         // A count that is not a number or above 20 is refused here rather than filling
         // rows from a guess: the user keeps the dialog and the rows. A negative count
         // is an answer: the rows are emptied and none is filled.
-        if (!IsNumericText(txtPoints)) return Refuse(msg::kMustBeNumeric, "txtPoints");
+        if (!IsNumericText(txtPoints)) return Refuse(msg::kMustBeNumeric, &AutoStationing::txtPoints);
         const double value = ReadNumber(txtPoints);
-        if (value > 20) return Refuse(msg::kPointsOver20, "txtPoints");
+        if (value > 20) return Refuse(msg::kPointsOver20, &AutoStationing::txtPoints);
         const double whole = std::nearbyint(value);  // halves to the even neighbour
         ipoints = static_cast<std::int16_t>(std::max(whole, double(INT16_MIN)));
         return std::nullopt;
     }
-    for (std::string_view name : {"txtBeginSTA", "txtBeginSTAM", "txtIncSTA", "txtIncSTAM"}) {
-        if (!IsNumericText(*Field(name))) return Refuse(msg::kMustBeNumeric, name);
+    for (const AutoStationField& field : kAutoStationFields) {
+        if (IsInputIn(field, true) && !IsNumericText(this->*field.value)) return Refuse(msg::kMustBeNumeric, field.value);
     }
     begSTA = ReadNumber(txtBeginSTA);
     begSTAM = ReadNumber(txtBeginSTAM);
@@ -127,9 +139,9 @@ Outcome AutoStationing::Accept() {
     const double pvt = ReadNumber(pvtSTA) * K + ReadNumber(pvtSTAM);
     if (pvc <= b && b <= pvt) {
         if ((incSTA > 0 && incSTAM >= 0) || (incSTA == 0 && incSTAM > 0)) return std::nullopt;
-        return Refuse(msg::kIncrementPositive, "txtIncSTA");
+        return Refuse(msg::kIncrementPositive, &AutoStationing::txtIncSTA);
     }
-    return Refuse(msg::kBeginOffCurveOK, "txtBeginSTA");
+    return Refuse(msg::kBeginOffCurveOK, &AutoStationing::txtBeginSTA);
 }
 
 void AutoStationing::Cancel() {

@@ -1,15 +1,19 @@
 #pragma once
 // The auto-stationing dialog's rules and the row filling that follows its answer.
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "curve_sheet.h"
-#include "refusal.h"
+#include "core/curve_sheet.h"
+#include "core/form.h"
+#include "core/refusal.h"
 
 namespace gw {
+
+struct AutoStationField;
 
 // The dialog's fields, its private copies of the curve's ends and its answer.
 struct AutoStationing {
@@ -32,15 +36,38 @@ struct AutoStationing {
 
     // Messages on leaving a field, in the order shown; only for a non-empty field
     // that is an input of the current mode.
-    std::vector<std::string_view> CheckOnLeave(std::string_view field) const;
+    std::vector<std::string_view> CheckOnLeave(const AutoStationField& field) const;
 
     // OK: empty when the dialog may hide; otherwise the message and the field to focus.
     Outcome Accept();
     void Cancel();
 
+    // The fields by control name; any other name throws.
     std::string* Field(std::string_view name);
     const std::string* Field(std::string_view name) const;
 };
+
+enum class AutoStationFieldKind { Points, BeginStation, BeginPlus, IncrementStation, IncrementPlus };
+
+// The fields of the dialog (dlgAuto), one row each.
+struct AutoStationField {
+    std::string_view name;  // the control's name
+    std::string AutoStationing::*value;
+    AutoStationFieldKind kind;
+    Rect place;
+    std::string_view tooltip;
+    int limit;  // characters the user may type, 0 for no limit
+};
+
+// In tab order, which puts the number of points second in both modes.
+extern const std::array<AutoStationField, 5> kAutoStationFields;
+
+// The number of points is the Increments mode's input, the rest are the Spacing mode's.
+bool IsInputIn(const AutoStationField& field, bool spacing);
+
+inline const AutoStationField& AutoStationFieldNamed(std::string_view name) {
+    return RowNamed(kAutoStationFields, name);
+}
 
 // A dialog reset for this curve, as every showing is.
 AutoStationing NewAutoStationing(const CurveSheet& sheet);

@@ -1,8 +1,8 @@
-#include "curve_criteria.h"
+#include "core/curve_criteria.h"
 
 #include <algorithm>
 
-#include "numbers.h"
+#include "core/numbers.h"
 
 namespace gw {
 namespace {

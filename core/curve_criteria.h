@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "design_check.h"
-#include "vertical_curve.h"
+#include "core/design_check.h"
+#include "core/vertical_curve.h"
 
 namespace gw {
 

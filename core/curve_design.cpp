@@ -1,6 +1,8 @@
-#include "curve_design.h"
+#include "core/curve_design.h"
 
 #include <cmath>
+
+#include "core/curve_geometry.h"
 
 namespace gw {
 namespace {
@@ -10,7 +12,7 @@ bool Reaches(double length, double d) { return length >= 2 * std::fabs(d) * (1 -
 
 }  // namespace
 
-double LengthForK(double K, const CurveFrame& frame) { return K * std::fabs(frame.g2 - frame.g1); }
+double LengthForK(double K, const CurveFrame& frame) { return K * GradeChange(frame.g1, frame.g2); }
 
 ControlPointDesign LengthThroughPoint(const CurveFrame& f, double station, double elevation) {
     ControlPointDesign out;

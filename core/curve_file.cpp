@@ -1,61 +1,55 @@
-#include "curve_file.h"
+#include "core/curve_file.h"
 
-#include <array>
 #include <vector>
+
+#include "core/curve_fields.h"
+#include "core/elevation_fields.h"
 
 namespace gw {
 namespace {
 
-constexpr std::array<int, 8> kValuesPerLine = {6, 7, 6, 4, 20, 20, 20, 3};
-
-enum class Kind { Text, Option, Placeholder, RowWhole, RowPlus, RowElevation, TableText };
-
-struct Slot {
-    Kind kind;
-    std::string CurveSheet::*text = nullptr;
-    bool CurveSheet::*option = nullptr;
-    std::string ElevationTable::*tableText = nullptr;
+// One value of the file: a text or an option of the curve, a text of the elevations
+// window (in a row for a column), or a placeholder that holds nothing.
+struct Value {
+    const CurveField* curve = nullptr;
+    const ElevationField* elevation = nullptr;
     int row = 0;
+
+    bool IsOption() const { return curve && !IsText(); }
+    bool IsText() const {
+        return elevation || (curve && std::holds_alternative<std::string CurveSheet::*>(curve->value));
+    }
+    // Works on a const sheet for the writer too.
+    template <class Sheet>
+    auto& Text(Sheet& sheet) const {
+        return elevation ? TextOf(sheet.elevations, *elevation, row) : TextOf(sheet, *curve);
+    }
+    bool CurveSheet::*Option() const { return std::get<bool CurveSheet::*>(curve->value); }
 };
 
-Slot T(std::string CurveSheet::*m) { return {Kind::Text, m}; }
-Slot O(bool CurveSheet::*m) { return {Kind::Option, nullptr, m}; }
-Slot P() { return {Kind::Placeholder}; }
-
-// The 86 values in file order. The order is the format: it is not the window's.
-const std::vector<Slot>& Layout() {
-    static const std::vector<Slot> slots = [] {
-        using S = CurveSheet;
-        std::vector<Slot> v = {
-            T(&S::lblSDL),     T(&S::lblMorF),    P(),          P(),          P(),
-            T(&S::txtPVISTAM), T(&S::txtPVIEval), T(&S::txtPVISTA), T(&S::txtG2),
-            T(&S::txtG1),      T(&S::txtLC),      T(&S::txtPVTEval), T(&S::txtPVTSTAM),
-            T(&S::txtPVTSTA),  T(&S::txtPVCEval), T(&S::txtPVCSTAM), T(&S::txtPVCSTA),
-            T(&S::txtSD),      T(&S::txtMO),      O(&S::optPVI),     O(&S::optPVCPVT),
-            T(&S::txtTPSTA),   T(&S::txtTPSTAM),
+// The file's lines, each a list of values, from the places the two windows' tables
+// give their fields; a place no field takes is a placeholder. The order is the
+// format: it is not the windows'.
+const std::vector<std::vector<Value>>& Lines() {
+    static const std::vector<std::vector<Value>> lines = [] {
+        std::vector<std::vector<Value>> out(8);
+        auto put = [&](FilePlace place, Value value) {
+            std::vector<Value>& line = out.at(size_t(place.line - 1));
+            if (line.size() <= size_t(place.index)) line.resize(size_t(place.index) + 1);
+            line[size_t(place.index)] = value;
         };
-        for (Kind k : {Kind::RowWhole, Kind::RowPlus, Kind::RowElevation}) {
-            for (int i = 0; i < kRowCount; ++i) v.push_back({k, nullptr, nullptr, nullptr, i});
+        for (const CurveField& field : kCurveFields) {
+            if (field.file.line > 0) put(field.file, {&field});
         }
-        for (auto m : {&ElevationTable::txtVOffset, &ElevationTable::txtHOffset, &ElevationTable::txtXSlope}) {
-            v.push_back({Kind::TableText, nullptr, nullptr, m});
+        for (const ElevationField& field : kElevationFields) {
+            if (field.file.line == 0) continue;
+            for (int row = 0; row < (IsColumn(field) ? kRowCount : 1); ++row) {
+                put({field.file.line, field.file.index + row}, {nullptr, &field, row});
+            }
         }
-        return v;
+        return out;
     }();
-    return slots;
-}
-
-// The text a slot stands for; works on a const sheet for the writer too.
-template <class Sheet>
-auto TextOf(Sheet& sheet, const Slot& slot) -> decltype(&sheet.lblSDL) {
-    switch (slot.kind) {
-        case Kind::Text: return &(sheet.*slot.text);
-        case Kind::RowWhole: return &sheet.elevations.rows[slot.row].txtTOTSTA1;
-        case Kind::RowPlus: return &sheet.elevations.rows[slot.row].txtTOTSTAM1;
-        case Kind::RowElevation: return &sheet.elevations.rows[slot.row].txtTotalTopSlab1;
-        case Kind::TableText: return &(sheet.elevations.*slot.tableText);
-        default: return nullptr;
-    }
+    return lines;
 }
 
 // One value as the reader takes it.
@@ -114,19 +108,16 @@ private:
 }  // namespace
 
 std::string CurveFileBytes(const CurveSheet& sheet) {
-    const CurveSheet& s = sheet;
-    const auto& layout = Layout();
     std::string out;
-    size_t index = 0;
-    for (int count : kValuesPerLine) {
-        for (int i = 0; i < count; ++i, ++index) {
+    for (const std::vector<Value>& line : Lines()) {
+        for (size_t i = 0; i < line.size(); ++i) {
             if (i > 0) out += ',';
-            const Slot& slot = layout[index];
-            if (slot.kind == Kind::Option) {
-                out += (s.*slot.option) ? "#TRUE#" : "#FALSE#";
-            } else if (slot.kind != Kind::Placeholder) {
+            const Value& value = line[i];
+            if (value.IsOption()) {
+                out += sheet.*value.Option() ? "#TRUE#" : "#FALSE#";
+            } else if (value.IsText()) {
                 out += '"';
-                out += *TextOf(s, slot);
+                out += value.Text(sheet);
                 out += '"';
             }
         }
@@ -141,13 +132,15 @@ CurveSheet ParseCurveFile(std::string_view bytes) {
     stored.optPVI = false;
     stored.optPVCPVT = false;
     ValueReader reader(bytes);
-    for (const Slot& slot : Layout()) {
-        if (reader.AtEnd()) break;
-        RawValue v = reader.Next();
-        if (slot.kind == Kind::Option) {
-            stored.*slot.option = !v.quoted && v.text == "#TRUE#";
-        } else if (slot.kind != Kind::Placeholder) {
-            *TextOf(stored, slot) = std::move(v.text);
+    for (const std::vector<Value>& line : Lines()) {
+        for (const Value& value : line) {
+            if (reader.AtEnd()) return stored;
+            RawValue v = reader.Next();
+            if (value.IsOption()) {
+                stored.*value.Option() = !v.quoted && v.text == "#TRUE#";
+            } else if (value.IsText()) {
+                value.Text(stored) = std::move(v.text);
+            }
         }
     }
     return stored;
@@ -175,15 +168,16 @@ void SetOption(CurveSheet& sheet, bool CurveSheet::*option, bool value) {
 CurveSheet LoadStoredCurve(const CurveSheet& stored, std::string_view dialogUnitSystem) {
     CurveSheet sheet = NewCurveSheet(dialogUnitSystem);
     if (stored.optPVCPVT) SwitchToPVCPVTMode(sheet);
-    sheet.lblSDL = stored.lblSDL;
-    sheet.lblMorF = stored.lblMorF;
-    for (std::string_view name : CurveSheet::CurveFieldNames()) *sheet.Field(name) = *stored.Field(name);
+    for (const CurveField& field : kCurveFields) {
+        if (field.kind != CurveFieldKind::Option) TextOf(sheet, field) = TextOf(stored, field);
+    }
     SetOption(sheet, &CurveSheet::optPVCPVT, stored.optPVCPVT);
     SetOption(sheet, &CurveSheet::optPVI, stored.optPVI);
-    sheet.elevations.rows = stored.elevations.rows;
-    sheet.elevations.txtVOffset = stored.elevations.txtVOffset;
-    sheet.elevations.txtHOffset = stored.elevations.txtHOffset;
-    sheet.elevations.txtXSlope = stored.elevations.txtXSlope;
+    for (const std::vector<Value>& line : Lines()) {
+        for (const Value& value : line) {
+            if (value.elevation) value.Text(sheet) = value.Text(stored);
+        }
+    }
     sheet.changed = false;
     return sheet;
 }

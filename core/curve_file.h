@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "curve_sheet.h"
+#include "core/curve_sheet.h"
 
 namespace gw {
 

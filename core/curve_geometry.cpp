@@ -1,14 +1,21 @@
-#include "curve_geometry.h"
+#include "core/curve_geometry.h"
 
 #include <charconv>
 #include <cmath>
 
-#include "numbers.h"
-#include "stations.h"
+#include "core/numbers.h"
+#include "core/stations.h"
 
 namespace gw {
 
-double CurveGeometry::gradeChange() const { return std::fabs(g1 - g2); }
+double GradeChange(double g1, double g2) { return std::fabs(g1 - g2); }
+
+std::optional<double> RateOfCurvature(double length, double gradeChange) {
+    if (gradeChange == 0) return std::nullopt;
+    return length / gradeChange;
+}
+
+bool GradesShareSign(double g1, double g2) { return (g1 > 0 && g2 > 0) || (g1 < 0 && g2 < 0); }
 
 double CurveGeometry::GradeAt(double x) const { return g1 + (g2 - g1) * x / length; }
 
@@ -21,13 +28,8 @@ double CurveGeometry::ElevationAt(double x) const {
 }
 
 std::optional<double> CurveGeometry::TurningPoint() const {
-    if ((g1 > 0 && g2 > 0) || (g1 < 0 && g2 < 0) || g1 == g2 || !(length > 0)) return std::nullopt;
+    if (GradesShareSign(g1, g2) || g1 == g2 || !(length > 0)) return std::nullopt;
     return -g1 * length / (g2 - g1);
-}
-
-std::optional<double> CurveGeometry::RateOfCurvature() const {
-    if (gradeChange() == 0) return std::nullopt;
-    return length / gradeChange();
 }
 
 SightDistance CurveGeometry::Sight() const { return ComputeSightDistance(length, g1, g2, metric); }
@@ -56,11 +58,11 @@ void AppendStationText(std::string& out, double value, bool metric) {
         out += '-';
         value = -value;
     }
-    const double k = StationLength(metric ? kMetric : kEnglish);
+    const double k = StationLength(UnitSystemName(metric));
     const double whole = std::trunc(value / k);
     const size_t plusAt = [&] {
         if (whole >= 1e15) {  // past fifteen digits the whole part is rounded: SplitStation's text
-            const StationTexts t = SplitStation(value, metric ? kMetric : kEnglish);
+            const StationTexts t = SplitStation(value, UnitSystemName(metric));
             out += t.whole + "+";
             const size_t at = out.size();
             out += t.plus;
@@ -82,7 +84,7 @@ void AppendStationText(std::string& out, double value, bool metric) {
         out += plus;
         return at;
     }();
-    const size_t width = metric ? 3 : 2;
+    const size_t width = PlusPartWidth(metric);
     const size_t digits = out.find('.', plusAt) - plusAt;
     if (digits < width) out.insert(plusAt, width - digits, '0');
 }

@@ -5,10 +5,18 @@
 #include <optional>
 #include <string>
 
-#include "curve_sheet.h"
-#include "sight_distance.h"
+#include "core/curve_sheet.h"
+#include "core/sight_distance.h"
 
 namespace gw {
+
+// A, the algebraic difference of two grades in percent.
+double GradeChange(double g1, double g2);
+// K = L / A; none when A is 0.
+std::optional<double> RateOfCurvature(double length, double gradeChange);
+// Grades of one strict sign, both rising or both falling: the curve between them has
+// no high or low point.
+bool GradesShareSign(double g1, double g2);
 
 struct CurveGeometry {
     double pvc = 0;           // station value of the PVC (ft or m)
@@ -20,8 +28,7 @@ struct CurveGeometry {
     double pvt() const { return pvc + length; }
     double pvi() const { return pvc + length / 2; }
     double pviElevation() const { return pvcElevation + g1 / 100 * length / 2; }
-    // A, the algebraic difference of the grades in percent.
-    double gradeChange() const;
+    double gradeChange() const { return GradeChange(g1, g2); }
     bool isCrest() const { return g1 > g2; }
 
     // (g2 - g1) / L / 2 with the grades as fractions: the parabola's x^2 term. Not
@@ -34,8 +41,7 @@ struct CurveGeometry {
     // Distance from the PVC to the high or low point, as the solver places the turning
     // point: none when both grades share a strict sign, the grades are equal or L <= 0.
     std::optional<double> TurningPoint() const;
-    // K = L / A; none when A is 0.
-    std::optional<double> RateOfCurvature() const;
+    std::optional<double> RateOfCurvature() const { return gw::RateOfCurvature(length, gradeChange()); }
 
     SightDistance Sight() const;
 };

@@ -1,45 +1,9 @@
-#include "curve_sheet.h"
+#include "core/curve_sheet.h"
 
-#include "stations.h"
+#include "core/curve_fields.h"
+#include "core/elevation_fields.h"
 
 namespace gw {
-namespace {
-
-template <class Owner>
-struct NamedMember {
-    std::string_view name;
-    std::string Owner::*member;
-};
-
-const std::array<NamedMember<CurveSheet>, 18> kCurveMembers = {{
-    {"txtPVISTA", &CurveSheet::txtPVISTA},   {"txtPVISTAM", &CurveSheet::txtPVISTAM},
-    {"txtPVIEval", &CurveSheet::txtPVIEval}, {"txtPVCSTA", &CurveSheet::txtPVCSTA},
-    {"txtPVCSTAM", &CurveSheet::txtPVCSTAM}, {"txtPVCEval", &CurveSheet::txtPVCEval},
-    {"txtPVTSTA", &CurveSheet::txtPVTSTA},   {"txtPVTSTAM", &CurveSheet::txtPVTSTAM},
-    {"txtPVTEval", &CurveSheet::txtPVTEval}, {"txtG1", &CurveSheet::txtG1},
-    {"txtG2", &CurveSheet::txtG2},           {"txtLC", &CurveSheet::txtLC},
-    {"txtMO", &CurveSheet::txtMO},           {"txtSD", &CurveSheet::txtSD},
-    {"txtTPSTA", &CurveSheet::txtTPSTA},     {"txtTPSTAM", &CurveSheet::txtTPSTAM},
-    {"lblSDL", &CurveSheet::lblSDL},         {"lblMorF", &CurveSheet::lblMorF},
-}};
-
-const std::array<NamedMember<ElevationTable>, 7> kTableMembers = {{
-    {"txtPVCSTA", &ElevationTable::txtPVCSTA},   {"txtPVCSTAM", &ElevationTable::txtPVCSTAM},
-    {"txtPVTSTA", &ElevationTable::txtPVTSTA},   {"txtPVTSTAM", &ElevationTable::txtPVTSTAM},
-    {"txtVOffset", &ElevationTable::txtVOffset}, {"txtHOffset", &ElevationTable::txtHOffset},
-    {"txtXSlope", &ElevationTable::txtXSlope},
-}};
-
-template <class Owner, size_t N, class Target>
-auto Find(const std::array<NamedMember<Owner>, N>& table, Target& owner, std::string_view name)
-    -> decltype(&(owner.*table[0].member)) {
-    for (const auto& m : table) {
-        if (m.name == name) return &(owner.*m.member);
-    }
-    return nullptr;
-}
-
-}  // namespace
 
 void ElevationTable::EmptyRows() {
     for (auto& row : rows) row = ElevationRow{};
@@ -47,28 +11,32 @@ void ElevationTable::EmptyRows() {
 
 void ElevationTable::ClearRowsAndOffsets() {
     EmptyRows();
-    txtVOffset.clear();
-    txtHOffset.clear();
-    txtXSlope.clear();
+    for (const ElevationField& field : kElevationFields) {
+        if (field.kind == ElevationFieldKind::Offset) TextOf(*this, field, 0).clear();
+    }
 }
 
-std::string* ElevationTable::Field(std::string_view name) { return Find(kTableMembers, *this, name); }
+std::string* ElevationTable::Field(std::string_view name) {
+    return &(this->*std::get<std::string ElevationTable::*>(ElevationFieldNamed(name).value));
+}
 const std::string* ElevationTable::Field(std::string_view name) const {
-    return Find(kTableMembers, *this, name);
+    return &(this->*std::get<std::string ElevationTable::*>(ElevationFieldNamed(name).value));
 }
 
 const std::array<std::string_view, 16>& CurveSheet::CurveFieldNames() {
-    static const std::array<std::string_view, 16> names = {
-        "txtPVISTA", "txtPVISTAM", "txtPVIEval", "txtPVCSTA", "txtPVCSTAM", "txtPVCEval",
-        "txtPVTSTA", "txtPVTSTAM", "txtPVTEval", "txtG1",     "txtG2",      "txtLC",
-        "txtMO",     "txtSD",      "txtTPSTA",   "txtTPSTAM"};
+    static const std::array<std::string_view, 16> names = [] {
+        std::array<std::string_view, 16> out{};
+        size_t n = 0;
+        for (const CurveField& field : kCurveFields) {
+            if (IsTextField(field)) out.at(n++) = field.name;
+        }
+        return out;
+    }();
     return names;
 }
 
-std::string* CurveSheet::Field(std::string_view name) { return Find(kCurveMembers, *this, name); }
-const std::string* CurveSheet::Field(std::string_view name) const {
-    return Find(kCurveMembers, *this, name);
-}
+std::string* CurveSheet::Field(std::string_view name) { return &TextOf(*this, CurveFieldNamed(name)); }
+const std::string* CurveSheet::Field(std::string_view name) const { return &TextOf(*this, CurveFieldNamed(name)); }
 
 bool CurveSheet::IsMetric() const { return gw::IsMetric(lblMorF); }
 
@@ -79,8 +47,9 @@ CurveSheet NewCurveSheet(std::string_view unitSystem) {
 }
 
 void ClearAll(CurveSheet& sheet) {
-    for (std::string_view name : CurveSheet::CurveFieldNames()) sheet.Field(name)->clear();
-    sheet.lblSDL.clear();
+    for (const CurveField& field : kCurveFields) {
+        if (IsTextField(field) || field.kind == CurveFieldKind::Label) TextOf(sheet, field).clear();
+    }
     sheet.elevations.ClearRowsAndOffsets();
 }
 

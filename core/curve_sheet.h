@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/stations.h"
+
 namespace gw {
 
 inline constexpr int kRowCount = 20;
@@ -28,13 +30,13 @@ struct ElevationTable {
     // Rows and offsets; the station copies stay.
     void ClearRowsAndOffsets();
 
-    // Named access to the seven single fields.
+    // The seven fields of their own by control name; any other name throws.
     std::string* Field(std::string_view name);
     const std::string* Field(std::string_view name) const;
 };
 
 struct CurveSheet {
-    std::string lblMorF = "Metric";
+    std::string lblMorF = std::string(kMetric);
     std::string lblSDL;
     bool optPVI = true;
     bool optPVCPVT = false;
@@ -48,11 +50,10 @@ struct CurveSheet {
     ElevationTable elevations;
     bool changed = false;
 
-    // The sixteen curve text fields, in the order Clear All empties them
-    // (lblSDL comes between txtSD and txtTPSTA there).
+    // The sixteen text fields of the curve window, in the order Clear All empties them.
     static const std::array<std::string_view, 16>& CurveFieldNames();
 
-    // The curve fields and the two labels by control name; nullptr for an unknown name.
+    // The text fields and the two labels by control name; any other name throws.
     std::string* Field(std::string_view name);
     const std::string* Field(std::string_view name) const;
 

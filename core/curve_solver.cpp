@@ -1,21 +1,30 @@
-#include "curve_solver.h"
+#include "core/curve_solver.h"
 
 #include <array>
 #include <cmath>
 
-#include "messages.h"
-#include "numbers.h"
-#include "sight_distance.h"
-#include "stations.h"
+#include "core/curve_fields.h"
+#include "core/curve_geometry.h"
+#include "core/messages.h"
+#include "core/numbers.h"
+#include "core/sight_distance.h"
+#include "core/stations.h"
 
 namespace gw {
 namespace {
 
 using StationSnapshot = std::array<double, 6>;
 
+// The six station fields: the PVI, PVC and PVT stations.
 StationSnapshot TakeSnapshot(const CurveSheet& s) {
-    return {ReadNumber(s.txtPVISTA), ReadNumber(s.txtPVISTAM), ReadNumber(s.txtPVCSTA),
-            ReadNumber(s.txtPVCSTAM), ReadNumber(s.txtPVTSTA), ReadNumber(s.txtPVTSTAM)};
+    StationSnapshot values{};
+    size_t n = 0;
+    for (const CurveField& field : kCurveFields) {
+        if (field.kind == CurveFieldKind::WholeStation || field.kind == CurveFieldKind::PlusPart) {
+            values.at(n++) = ReadNumber(TextOf(s, field));
+        }
+    }
+    return values;
 }
 
 void ApplyChangeTest(CurveSheet& s, const StationSnapshot& before) {
@@ -25,16 +34,20 @@ void ApplyChangeTest(CurveSheet& s, const StationSnapshot& before) {
     }
 }
 
+Refusal Refuse(std::string_view message, std::string CurveSheet::*field) {
+    return Refusal{std::string(message), std::string(RowOf(kCurveFields, field).name)};
+}
+
+// The solver's inputs in the order it checks them, each with its message.
 struct Check {
     std::string CurveSheet::*field;
-    std::string_view name;
     std::string_view message;
 };
 
 template <size_t N>
 Outcome FirstMissing(const CurveSheet& s, const std::array<Check, N>& checks) {
     for (const Check& c : checks) {
-        if (!IsNumericText(s.*c.field)) return Refusal{std::string(c.message), std::string(c.name)};
+        if (!IsNumericText(s.*c.field)) return Refuse(c.message, c.field);
     }
     return std::nullopt;
 }
@@ -45,9 +58,9 @@ void WriteStation(CurveSheet& s, std::string CurveSheet::*whole, std::string Cur
     s.*plus = t.plus;
 }
 
-// Where the grade of the parabola is zero, or "N/A" when both grades share a strict
-// sign. With a zero length of curve r has no value; the turning point then comes
-// out not finite and its fields are left empty.
+// Where the grade of the parabola is zero, or "N/A" when the grades share a sign.
+// With a zero length of curve r has no value; the turning point then comes out not
+// finite and its fields are left empty.
 void WriteTurningPoint(CurveSheet& s, double pvcValue, double L) {
     const double G1 = ReadNumber(s.txtG1);
     const double G2 = ReadNumber(s.txtG2);
@@ -55,7 +68,7 @@ void WriteTurningPoint(CurveSheet& s, double pvcValue, double L) {
     const double g2 = G2 / 100;
     const double r = (g2 - g1) / L;
     const double tp = r == 0 ? 0 : pvcValue - g1 / r;
-    if ((G1 > 0 && G2 > 0) || (G1 < 0 && G2 < 0)) {
+    if (GradesShareSign(G1, G2)) {
         s.txtTPSTA.clear();
         s.txtTPSTAM = "N/A";
     } else {
@@ -74,12 +87,12 @@ void WriteMiddleOrdinate(CurveSheet& s, double L) {
 Outcome SolveFromPVI(CurveSheet& s) {
     const StationSnapshot before = TakeSnapshot(s);
     static const std::array<Check, 6> checks = {{
-        {&CurveSheet::txtPVISTA, "txtPVISTA", msg::kPVIStation},
-        {&CurveSheet::txtPVISTAM, "txtPVISTAM", msg::kPVIStation},
-        {&CurveSheet::txtPVIEval, "txtPVIEval", msg::kPVIElevation},
-        {&CurveSheet::txtG1, "txtG1", msg::kG1},
-        {&CurveSheet::txtG2, "txtG2", msg::kG2},
-        {&CurveSheet::txtLC, "txtLC", msg::kLength},
+        {&CurveSheet::txtPVISTA, msg::kPVIStation},
+        {&CurveSheet::txtPVISTAM, msg::kPVIStation},
+        {&CurveSheet::txtPVIEval, msg::kPVIElevation},
+        {&CurveSheet::txtG1, msg::kG1},
+        {&CurveSheet::txtG2, msg::kG2},
+        {&CurveSheet::txtLC, msg::kLength},
     }};
     if (Outcome refusal = FirstMissing(s, checks)) return refusal;
 
@@ -103,20 +116,20 @@ Outcome SolveFromPVI(CurveSheet& s) {
 Outcome SolveFromPVCPVT(CurveSheet& s) {
     const StationSnapshot before = TakeSnapshot(s);
     static const std::array<Check, 7> checks = {{
-        {&CurveSheet::txtPVCSTA, "txtPVCSTA", msg::kPVCStation},
-        {&CurveSheet::txtPVCSTAM, "txtPVCSTAM", msg::kPVCStation},
-        {&CurveSheet::txtPVCEval, "txtPVCEval", msg::kPVCElevation},
-        {&CurveSheet::txtPVTSTA, "txtPVTSTA", msg::kPVTStation},
-        {&CurveSheet::txtPVTSTAM, "txtPVTSTAM", msg::kPVTStation},
-        {&CurveSheet::txtPVTEval, "txtPVTEval", msg::kPVTElevation},
-        {&CurveSheet::txtG1, "txtG1", msg::kG1},
+        {&CurveSheet::txtPVCSTA, msg::kPVCStation},
+        {&CurveSheet::txtPVCSTAM, msg::kPVCStation},
+        {&CurveSheet::txtPVCEval, msg::kPVCElevation},
+        {&CurveSheet::txtPVTSTA, msg::kPVTStation},
+        {&CurveSheet::txtPVTSTAM, msg::kPVTStation},
+        {&CurveSheet::txtPVTEval, msg::kPVTElevation},
+        {&CurveSheet::txtG1, msg::kG1},
     }};
     if (Outcome refusal = FirstMissing(s, checks)) return refusal;
 
     const double pvc = JoinStation(s.txtPVCSTA, s.txtPVCSTAM, s.lblMorF);
     const double pvt = JoinStation(s.txtPVTSTA, s.txtPVTSTAM, s.lblMorF);
     double L = pvt - pvc;
-    if (L <= 0) return Refusal{std::string(msg::kPVCBeforePVT), "txtPVCSTA"};
+    if (L <= 0) return Refuse(msg::kPVCBeforePVT, &CurveSheet::txtPVCSTA);
 
     s.txtLC = FormatNumber(L);
     L = ReadNumber(s.txtLC);

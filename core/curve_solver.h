@@ -1,8 +1,8 @@
 #pragma once
 // Calc: solves the curve from its PVI or from its two ends.
 
-#include "curve_sheet.h"
-#include "refusal.h"
+#include "core/curve_sheet.h"
+#include "core/refusal.h"
 
 namespace gw {
 

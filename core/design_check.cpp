@@ -1,4 +1,4 @@
-#include "design_check.h"
+#include "core/design_check.h"
 
 #include <algorithm>
 #include <array>
@@ -36,8 +36,7 @@ std::optional<DesignSpeedRow> Lookup(const std::array<DesignSpeedRow, N>& rows, 
     return std::nullopt;
 }
 
-// Headlight height plus the beam's rise per unit of distance (tan 1 degree, as 3.5 / 100).
-double HeadlightReach(double S, double H) { return H + 3.5 * S; }
+double HeadlightReach(double S, double H) { return H + kHeadlightBeam * S; }
 
 // The S < L form holds when the length it gives is at least S; otherwise the S > L
 // form, which goes below zero for a small change of grade: no curve is needed then.

@@ -45,6 +45,9 @@ double OncomingVehicleHeight(bool metric);
 double HeadlightHeight(bool metric);
 // H of the sag formulas: 200 times the headlight height (2 ft / 0.6 m).
 double HeadlightConstant(bool metric);
+// The beam's term of the sag formulas, 3.5 in H + 3.5 S: 200 tan 1 degree, the beam
+// tilted up by one degree.
+inline constexpr double kHeadlightBeam = 3.5;
 double HeadlightConstantForHeight(double headlight);
 
 struct MinimumLength {

@@ -1,21 +1,32 @@
-#include "elevations.h"
+#include "core/elevations.h"
 
 #include <cmath>
 
-#include "field_checks.h"
-#include "messages.h"
-#include "numbers.h"
-#include "stations.h"
+#include "core/curve_fields.h"
+#include "core/elevation_fields.h"
+#include "core/field_checks.h"
+#include "core/messages.h"
+#include "core/numbers.h"
+#include "core/stations.h"
 
 namespace gw {
-namespace {
 
-// The elevation as its field takes it: through the plain 15-digit text, then the
-// number format. A 15-digit text reads back to a double whose 15 digits are the
-// same, so formatting the value directly gives the identical text.
-std::string ThroughField(double value) { return FormatNumber(value); }
+Offsets ReadOffsets(const ElevationTable& t) {
+    return {IsNumericText(t.txtVOffset), ReadNumber(t.txtVOffset),
+            IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope),
+            (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset)};
+}
 
-}  // namespace
+bool AddOffsets(std::string& text, const Offsets& o) {
+    bool computed = true;
+    for (const auto& [with, add] : {std::pair{o.withV, o.V}, std::pair{o.withCross, o.cross}}) {
+        if (!with) continue;
+        const double value = ReadNumber(text) + add;
+        computed = computed && std::isfinite(value);
+        text = FormatNumber(value);
+    }
+    return computed;
+}
 
 Outcome CalculateTOS(CurveSheet& sheet) {
     ElevationTable& t = sheet.elevations;
@@ -30,10 +41,7 @@ Outcome CalculateTOS(CurveSheet& sheet) {
     const double L = ReadNumber(sheet.txtLC);
     const double E0 = ReadNumber(sheet.txtPVCEval);
     const double a = (g2 - g1) / L / 2;
-    const bool withV = IsNumericText(t.txtVOffset);
-    const double V = ReadNumber(t.txtVOffset);
-    const bool withCross = IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope);
-    const double cross = (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset);
+    const Offsets offsets = ReadOffsets(t);
 
     for (int i = 0; i < kRowCount; ++i) {
         ElevationRow& row = t.rows[i];
@@ -41,29 +49,33 @@ Outcome CalculateTOS(CurveSheet& sheet) {
         const double T = ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1);
         if (T == 0) continue;
         if (pvc < pvt && (T < pvc || T > pvt)) {
-            return Refusal{std::string(msg::kStationOffCurve), "txtTOTSTAM1", i};
+            return Refusal{std::string(msg::kStationOffCurve),
+                           std::string(RowOf(kElevationFields, &ElevationRow::txtTOTSTAM1).name), i};
         }
         const double x = T - pvc;
         const double E = E0 + g1 * x + a * (x * x);
         // A length of curve of zero (emptied after a Calc) has no parabola: the row
         // keeps an empty elevation instead of a number made up from a division by zero.
         if (!std::isfinite(E)) continue;
-        row.txtTotalTopSlab1 = ThroughField(E);
-        if (withV) row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + V);
-        if (withCross) row.txtTotalTopSlab1 = ThroughField(ReadNumber(row.txtTotalTopSlab1) + cross);
+        // A 15-digit text reads back to a double whose 15 digits are the same, so the
+        // number format of the value is the text the field ends with.
+        row.txtTotalTopSlab1 = FormatNumber(E);
+        AddOffsets(row.txtTotalTopSlab1, offsets);
     }
     t.bCalcOK = true;
     return std::nullopt;
 }
 
 bool CopyCurveStations(CurveSheet& sheet) {
-    ElevationTable& t = sheet.elevations;
-    const bool differed = t.txtPVCSTA != sheet.txtPVCSTA || t.txtPVCSTAM != sheet.txtPVCSTAM ||
-                          t.txtPVTSTA != sheet.txtPVTSTA || t.txtPVTSTAM != sheet.txtPVTSTAM;
-    t.txtPVCSTA = sheet.txtPVCSTA;
-    t.txtPVCSTAM = sheet.txtPVCSTAM;
-    t.txtPVTSTA = sheet.txtPVTSTA;
-    t.txtPVTSTAM = sheet.txtPVTSTAM;
+    bool differed = false;
+    for (const ElevationField& field : kElevationFields) {
+        if (field.kind != ElevationFieldKind::StationCopy) continue;
+        // Each copy bears the name of the curve's field it copies.
+        std::string& copy = TextOf(sheet.elevations, field, 0);
+        const std::string& curve = TextOf(sheet, CurveFieldNamed(field.name));
+        differed = differed || copy != curve;
+        copy = curve;
+    }
     return differed;
 }
 

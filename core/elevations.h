@@ -1,13 +1,31 @@
 #pragma once
 // Elevations at stations along a solved curve, and the rules of the elevations window.
 
+#include <string>
 #include <string_view>
 #include <vector>
 
-#include "curve_sheet.h"
-#include "refusal.h"
+#include "core/curve_sheet.h"
+#include "core/refusal.h"
 
 namespace gw {
+
+// The vertical offset and the horizontal offset times the cross slope, as the
+// elevations window's fields give them; an offset whose text is not a number is left
+// out (both the horizontal offset and the cross slope must be numbers).
+struct Offsets {
+    bool withV = false;
+    double V = 0;
+    bool withCross = false;
+    double cross = 0;
+};
+Offsets ReadOffsets(const ElevationTable& table);
+
+// An elevation's text with the offsets added, as its field takes them: each stage
+// reads the field's text back, adds its offset and writes the sum in the number
+// format, so the final elevation is FormatNumber(FormatNumber(FormatNumber(E) + V) +
+// X/100 H). False when the sum of a stage is not a number.
+bool AddOffsets(std::string& elevationText, const Offsets& offsets);
 
 // Calculate TOS: the elevation of every row with the offsets and cross slope.
 // Stops at the first station outside the PVC-PVT range with a refusal that focuses

@@ -4,13 +4,14 @@
 #include <optional>
 #include <string_view>
 
-#include "curve_sheet.h"
+#include "core/curve_fields.h"
+#include "core/curve_sheet.h"
 
 namespace gw {
 
 // The message to show when the user leaves `field` with its current text, or
 // nothing. Fields without a check (the elevations and the results) never fail.
-std::optional<std::string_view> CheckCurveFieldOnLeave(const CurveSheet& sheet, std::string_view field);
+std::optional<std::string_view> CheckCurveFieldOnLeave(const CurveSheet& sheet, const CurveField& field);
 
 // The plus-part range test shared by every station entry: the message for a plus
 // part beyond the largest of its unit system, or nothing. Only "Metric" and

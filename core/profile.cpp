@@ -1,10 +1,10 @@
-#include "profile.h"
+#include "core/profile.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "numbers.h"
-#include "station_steps.h"
+#include "core/numbers.h"
+#include "core/station_steps.h"
 
 namespace gw {
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include "curve_geometry.h"
-#include "vertical_curve.h"
+#include "core/curve_geometry.h"
+#include "core/vertical_curve.h"
 
 namespace gw {
 

@@ -1,10 +1,10 @@
-#include "profile_rows.h"
+#include "core/profile_rows.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "numbers.h"
-#include "station_steps.h"
+#include "core/numbers.h"
+#include "core/station_steps.h"
 
 namespace gw {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "profile.h"
+#include "core/profile.h"
 
 namespace gw {
 

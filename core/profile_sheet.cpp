@@ -1,6 +1,6 @@
-#include "profile_sheet.h"
+#include "core/profile_sheet.h"
 
-#include "numbers.h"
+#include "core/numbers.h"
 
 namespace gw {
 
@@ -41,7 +41,7 @@ StationTexts StationFieldTexts(double value, bool metric) {
     const bool negative = text[0] == '-';
     if (negative) text.erase(0, 1);
     const size_t point = std::min(text.find('.'), text.size());
-    const size_t width = metric ? 3 : 2;
+    const size_t width = PlusPartWidth(metric);
     StationTexts t;
     t.whole = point > width ? text.substr(0, point - width) : "0";
     t.plus = text.substr(point > width ? point - width : 0);
@@ -56,7 +56,7 @@ StationTexts StationFieldTexts(double value, bool metric) {
 CurveSheet SheetFromProfileCurve(const Profile& profile, size_t index, bool endsMode) {
     const VerticalCurve& c = *profile.pvis()[index].curve;
     const bool metric = profile.metric();
-    CurveSheet s = NewCurveSheet(metric ? kMetric : kEnglish);
+    CurveSheet s = NewCurveSheet(UnitSystemName(metric));
     const auto station = [&](std::string& whole, std::string& plus, double value) {
         StationTexts t = StationFieldTexts(value, metric);
         whole = t.whole;

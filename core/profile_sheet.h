@@ -7,9 +7,9 @@
 #include <string>
 #include <utility>
 
-#include "curve_sheet.h"
-#include "profile.h"
-#include "stations.h"
+#include "core/curve_sheet.h"
+#include "core/profile.h"
+#include "core/stations.h"
 
 namespace gw {
 

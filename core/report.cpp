@@ -1,6 +1,10 @@
-#include "report.h"
+#include "core/report.h"
 
-#include "numbers.h"
+#include "core/curve_fields.h"
+#include "core/elevation_fields.h"
+#include "core/messages.h"
+#include "core/numbers.h"
+#include "core/stations.h"
 
 namespace gw {
 namespace {
@@ -8,77 +12,77 @@ namespace {
 const std::string kDashes(64, '-');
 
 std::string UnitsMark(std::string_view units) {
-    if (units == "Metric") return "(Metric)";
-    if (units == "English") return "(English)";
-    return {};
+    if (units != kMetric && units != kEnglish) return {};
+    return "(" + std::string(units) + ")";
 }
 
 class Lines {
 public:
-    void Add(std::string line) { lines_.push_back(std::move(line)); }
-    void Empty() { lines_.emplace_back(); }
-    void Station(const char* heading, const std::string& whole, const std::string& plus,
-                 const std::string& elevation) {
-        Add(heading);
-        Add("Station: " + whole + "+" + plus);
-        Add("Elevation: " + elevation);
-        Empty();
+    void Add(std::string line) { m_lines.push_back(std::move(line)); }
+    void Empty() { m_lines.emplace_back(); }
+    // A field's value between its leading and trailing texts.
+    void Piece(const ReportPiece& piece, const std::string& value) {
+        if (!piece.sameLine || m_lines.empty()) m_lines.emplace_back();
+        m_lines.back().append(piece.before).append(value).append(piece.after);
     }
-    std::vector<std::string> Take() { return std::move(lines_); }
+    std::vector<std::string> Take() { return std::move(m_lines); }
 
 private:
-    std::vector<std::string> lines_;
+    std::vector<std::string> m_lines;
 };
+
+// The curve's values of one group, then an empty line.
+void Group(Lines& out, const CurveSheet& s, ReportGroup group) {
+    for (const CurveField& field : kCurveFields) {
+        if (field.report.group == group) out.Piece(field.report, TextOf(s, field));
+    }
+    out.Empty();
+}
+
+void Station(Lines& out, const CurveSheet& s, ReportGroup group, const char* heading) {
+    out.Add(heading);
+    Group(out, s, group);
+}
+
+// The elevations window's values of one group, from one row for the columns.
+void ElevationGroup(Lines& out, const ElevationTable& t, ReportGroup group, int row) {
+    for (const ElevationField& field : kElevationFields) {
+        if (field.report.group == group) out.Piece(field.report, TextOf(t, field, row));
+    }
+}
 
 }  // namespace
 
 std::vector<std::string> ReportLines(const CurveSheet& s, std::string_view date, std::string_view time) {
     Lines out;
     const std::string mark = UnitsMark(s.lblMorF);
-    auto pvi = [&] { out.Station("PVI Values", s.txtPVISTA, s.txtPVISTAM, s.txtPVIEval); };
-    auto pvc = [&] { out.Station("PVC Values", s.txtPVCSTA, s.txtPVCSTAM, s.txtPVCEval); };
-    auto pvt = [&] { out.Station("PVT Values", s.txtPVTSTA, s.txtPVTSTAM, s.txtPVTEval); };
-    auto grades = [&] {
-        out.Add("G1: " + s.txtG1 + "%");
-        out.Add("G2: " + s.txtG2 + "%");
-        out.Add("Length of Curve: " + s.txtLC);
-        out.Empty();
-    };
-
-    out.Add("Gradewise " + std::string(10, ' ') + std::string(date) + "  " + std::string(time));
+    out.Add(std::string(msg::kAppTitle) + " " + std::string(10, ' ') + std::string(date) + "  " + std::string(time));
     out.Empty();
     out.Add(kDashes);
     out.Add("Input:   " + mark);
     out.Empty();
     if (s.optPVI) {
-        pvi();
-        grades();
+        Station(out, s, ReportGroup::PVI, "PVI Values");
     } else {
-        pvc();
-        pvt();
-        grades();
+        Station(out, s, ReportGroup::PVC, "PVC Values");
+        Station(out, s, ReportGroup::PVT, "PVT Values");
     }
+    Group(out, s, ReportGroup::Grades);
     out.Add(kDashes);
     out.Add("Output:   " + mark);
     out.Empty();
     if (s.optPVI) {
-        pvc();
-        pvt();
+        Station(out, s, ReportGroup::PVC, "PVC Values");
+        Station(out, s, ReportGroup::PVT, "PVT Values");
     } else {
-        pvi();
+        Station(out, s, ReportGroup::PVI, "PVI Values");
     }
-    out.Add("Middle Ordinate:   " + s.txtMO);
-    out.Add("Sight Distance:  " + s.lblSDL + " " + s.txtSD);
-    out.Add("Turning Point Station:   " + s.txtTPSTA + "+" + s.txtTPSTAM);
+    Group(out, s, ReportGroup::Results);
+    ElevationGroup(out, s.elevations, ReportGroup::Offsets, 0);
     out.Empty();
-    const ElevationTable& t = s.elevations;
-    out.Add("V-Offset: " + t.txtVOffset + "  H-Offset: " + t.txtHOffset + "  X-Slope: " + t.txtXSlope);
-    out.Empty();
-    for (const ElevationRow& row : t.rows) {
-        if (ReadNumber(row.txtTOTSTA1) > 0) {
-            out.Add("Elevation at Station: " + row.txtTOTSTA1 + "+" + row.txtTOTSTAM1 + "  =  " +
-                    row.txtTotalTopSlab1);
-        }
+    // Only the rows that hold a station past station 0.
+    for (int row = 0; row < kRowCount; ++row) {
+        if (ReadNumber(s.elevations.rows[row].txtTOTSTA1) > 0) ElevationGroup(out, s.elevations, ReportGroup::Rows, row);
     }
     out.Add(kDashes);
     return out.Take();

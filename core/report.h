@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "curve_sheet.h"
+#include "core/curve_sheet.h"
 
 namespace gw {
 

@@ -1,48 +1,39 @@
-#include "sight_distance.h"
+#include "core/sight_distance.h"
 
 #include <cmath>
 
-#include "numbers.h"
+#include "core/curve_geometry.h"
+#include "core/design_check.h"
+#include "core/numbers.h"
 
 namespace gw {
-namespace {
 
-struct Constants {
-    double crest;      // C
-    double halfCrest;  // C / 2
-    double headlight;  // H
-    double fourH;      // 4 H
-};
-
-constexpr Constants kEnglish{1329, 664.5, 400, 1600};
-constexpr Constants kMetric{404, 202, 120, 480};
-constexpr double kBeam = 3.5;
-constexpr double kBeamSquared = 12.25;
-
-}  // namespace
-
+// The constants are the older crest constant C and the headlight constant H of the
+// design formulas; the solvers have always used these.
 SightDistance ComputeSightDistance(double L, double G1, double G2, bool metric) {
-    const double A = std::fabs(G1 - G2);
-    const Constants& k = metric ? kMetric : kEnglish;
+    const double A = GradeChange(G1, G2);
+    const double C = CrestConstant(CrestConstants::Older, metric);
+    const double H = HeadlightConstant(metric);
+    const double beam = kHeadlightBeam;
 
     SightDistance sd;
     sd.governing = SightCase::WithinCurve;
     double& S = sd.distance;
     if (G1 > G2) {
         sd.kind = "SSD";
-        S = std::sqrt(L * k.crest / A);
+        S = std::sqrt(L * C / A);
         if (!(S <= L)) {
-            S = k.halfCrest / A + L / 2;
+            S = C / 2 / A + L / 2;
             sd.governing = SightCase::BeyondCurve;
         }
     } else if (G2 > G1) {
         sd.kind = "HSD";
-        S = (kBeam * L + std::sqrt(kBeamSquared * L * L + k.fourH * A * L)) / (2 * A);
+        S = (beam * L + std::sqrt(beam * beam * L * L + 4 * H * A * L)) / (2 * A);
         if (!(S <= L)) {
-            const double divisor = 2 * A - kBeam;
+            const double divisor = 2 * A - beam;
             // With A of 1.75 % or less the headlight beam never meets the road beyond
             // the curve: the distance is unlimited, and we show no number for it.
-            S = divisor > 0 ? (A * L + k.headlight) / divisor : NAN;
+            S = divisor > 0 ? (A * L + H) / divisor : NAN;
             sd.governing = SightCase::BeyondCurve;
         }
     } else {

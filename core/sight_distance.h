@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "curve_sheet.h"
+#include "core/curve_sheet.h"
 
 namespace gw {
 

@@ -1,11 +1,12 @@
-#include "station_rows.h"
+#include "core/station_rows.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
 
-#include "numbers.h"
-#include "station_steps.h"
+#include "core/elevations.h"
+#include "core/numbers.h"
+#include "core/station_steps.h"
 
 namespace gw {
 namespace {
@@ -35,23 +36,12 @@ std::string EvenPoints(const CurveGeometry& c, double interval, std::size_t most
     return {};
 }
 
-struct Offsets {
-    bool withV, withCross;
-    double V, cross;
-};
-
-// Each offset goes through the elevation's text, as in the elevations window; nothing
-// when a stage cannot be computed.
+// The elevation's text, offsets included; nothing when a stage cannot be computed.
 std::optional<std::string> ElevationText(const CurveGeometry& c, double x, const Offsets& o) {
-    double value = c.ElevationAt(x);
+    const double value = c.ElevationAt(x);
     if (!std::isfinite(value)) return std::nullopt;
     std::string text = FormatNumber(value);
-    for (const auto& [with, add] : {std::pair{o.withV, o.V}, std::pair{o.withCross, o.cross}}) {
-        if (!with) continue;
-        value = ReadNumber(text) + add;
-        if (!std::isfinite(value)) return std::nullopt;
-        text = FormatNumber(value);
-    }
+    if (!AddOffsets(text, o)) return std::nullopt;
     return text;
 }
 
@@ -82,9 +72,7 @@ StationTable StationRows(const CurveSheet& solved, double interval, std::size_t 
         }
     }
 
-    const ElevationTable& t = solved.elevations;
-    const Offsets offsets{IsNumericText(t.txtVOffset), IsNumericText(t.txtHOffset) && IsNumericText(t.txtXSlope),
-                          ReadNumber(t.txtVOffset), (ReadNumber(t.txtXSlope) / 100) * ReadNumber(t.txtHOffset)};
+    const Offsets offsets = ReadOffsets(solved.elevations);
     for (const Point& p : points) {
         StationRow row;
         row.station = c.pvc + p.x;

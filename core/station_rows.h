@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "curve_geometry.h"
-#include "curve_sheet.h"
+#include "core/curve_geometry.h"
+#include "core/curve_sheet.h"
 
 namespace gw {
 

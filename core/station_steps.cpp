@@ -1,4 +1,4 @@
-#include "station_steps.h"
+#include "core/station_steps.h"
 
 #include <algorithm>
 #include <cmath>

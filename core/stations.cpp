@@ -1,8 +1,8 @@
-#include "stations.h"
+#include "core/stations.h"
 
 #include <cmath>
 
-#include "numbers.h"
+#include "core/numbers.h"
 
 namespace gw {
 

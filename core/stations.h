@@ -1,6 +1,7 @@
 #pragma once
 // Stations and the two unit systems.
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -11,6 +12,10 @@ inline constexpr std::string_view kEnglish = "English";
 
 // Any unit-system text other than "Metric" is treated as English.
 inline bool IsMetric(std::string_view unitSystem) { return unitSystem == kMetric; }
+inline std::string_view UnitSystemName(bool metric) { return metric ? kMetric : kEnglish; }
+
+// Digits before the point of the largest plus part: 999.999 m or 99.99 ft.
+inline std::size_t PlusPartWidth(bool metric) { return metric ? 3 : 2; }
 
 // 1000 for a metric sheet, 100 otherwise.
 double StationLength(std::string_view unitSystem);

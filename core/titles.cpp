@@ -1,13 +1,13 @@
-#include "titles.h"
+#include "core/titles.h"
+
+#include "core/stations.h"
 
 namespace gw {
 namespace {
 constexpr std::string_view kUntitled = "Untitled";
 }
 
-std::string TitlePrefix(bool metric) {
-    return metric ? "Vertical Curve - Metric: " : "Vertical Curve - English: ";
-}
+std::string TitlePrefix(bool metric) { return "Vertical Curve - " + std::string(UnitSystemName(metric)) + ": "; }
 
 std::string UntitledTitle(bool metric) { return TitlePrefix(metric) + std::string(kUntitled); }
 
@@ -45,9 +45,8 @@ std::string TitleAfterSaveAs(std::string_view title, std::string_view path) {
 
 std::string TitleForLoadedFile(std::string_view currentTitle, std::string_view storedUnits,
                                std::string_view path) {
-    if (storedUnits == "Metric") return TitlePrefix(true) + std::string(path);
-    if (storedUnits == "English") return TitlePrefix(false) + std::string(path);
-    return std::string(currentTitle);
+    if (storedUnits != kMetric && storedUnits != kEnglish) return std::string(currentTitle);
+    return TitlePrefix(IsMetric(storedUnits)) + std::string(path);
 }
 
 std::string CloseQuestion(std::string_view curveName) {

@@ -1,4 +1,4 @@
-#include "vertical_curve.h"
+#include "core/vertical_curve.h"
 
 #include <algorithm>
 #include <cmath>
@@ -29,13 +29,6 @@ VerticalCurve::VerticalCurve(double pviStation, double pviElevation, double g1, 
 double VerticalCurve::pvtElevation() const {
     const CurveGeometry& last = m_parts[partCount() - 1];
     return last.ElevationAt(last.length);
-}
-
-double VerticalCurve::gradeChange() const { return std::fabs(m_g1 - m_g2); }
-
-std::optional<double> VerticalCurve::RateOfCurvature() const {
-    if (gradeChange() == 0) return std::nullopt;
-    return length() / gradeChange();
 }
 
 double VerticalCurve::MiddleOrdinate() const {

@@ -5,7 +5,7 @@
 #include <array>
 #include <optional>
 
-#include "curve_geometry.h"
+#include "core/curve_geometry.h"
 
 namespace gw {
 
@@ -30,11 +30,9 @@ public:
     double pvt() const { return m_pviStation + m_lengthOut; }
     double pvcElevation() const { return m_parts[0].pvcElevation; }
     double pvtElevation() const;
-    // A, the algebraic difference of the grades in percent.
-    double gradeChange() const;
+    double gradeChange() const { return GradeChange(m_g1, m_g2); }
     bool isCrest() const { return m_g1 > m_g2; }
-    // K = L / A; none when A is 0.
-    std::optional<double> RateOfCurvature() const;
+    std::optional<double> RateOfCurvature() const { return gw::RateOfCurvature(length(), gradeChange()); }
     // e, the distance between the PVI and the curve below or above it:
     // A L1 L2 / (2 (L1 + L2)), A as a fraction; A L / 8 when symmetric.
     double MiddleOrdinate() const;

@@ -1,4 +1,4 @@
-#include "curve_file_io.h"
+#include "files/curve_file_io.h"
 
 #include <cerrno>
 #include <cstdio>

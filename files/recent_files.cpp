@@ -1,4 +1,4 @@
-#include "recent_files.h"
+#include "files/recent_files.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-#include "settings_store.h"
+#include "files/settings_store.h"
 
 #include <cerrno>
 #include <cstring>
@@ -9,7 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "replace_file.h"
+#include "files/replace_file.h"
 
 namespace gw {
 namespace {

@@ -43,9 +43,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
 
     gw::CurveSheet sheet = gw::NewCurveSheet(flags & 1 ? "Metric" : "English");
     if (flags & 2) gw::SwitchToPVCPVTMode(sheet);
-    for (std::string_view name : gw::CurveSheet::CurveFieldNames()) {
-        *sheet.Field(name) = text();
-        (void)gw::CheckCurveFieldOnLeave(sheet, name);
+    for (const gw::CurveField& field : gw::kCurveFields) {
+        if (!gw::IsTextField(field)) continue;
+        gw::TextOf(sheet, field) = text();
+        (void)gw::CheckCurveFieldOnLeave(sheet, field);
     }
     const gw::CurveSheet before = sheet;
     gw::Calculate(sheet);
@@ -73,9 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     } else {
         dialog.txtPoints = text();
     }
-    for (std::string_view f : {"txtPoints", "txtBeginSTA", "txtBeginSTAM", "txtIncSTA", "txtIncSTAM"}) {
-        (void)dialog.CheckOnLeave(f);
-    }
+    for (const gw::AutoStationField& field : gw::kAutoStationFields) (void)dialog.CheckOnLeave(field);
     bool filled = false;
     if (!dialog.Accept()) gw::ApplyAutoStationing(sheet, dialog, &filled);
     if (filled) {

@@ -1,4 +1,4 @@
-#include "modal_guard.h"
+#include "platform/modal_guard.h"
 
 #include <QEvent>
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
-#include "platform.h"
+#include "platform/platform.h"
 
 #include <QStandardPaths>
 
-#include "core/messages.h"
+#include "platform/texts.h"
 
 namespace gw {
 
@@ -13,7 +13,7 @@ QString UserSettingsPath() {
 
 void ShowRefusal(Platform& platform, QWidget* owner, const QString& text) {
     MessageRequest request;
-    request.title = QString::fromUtf8(msg::kAppTitle.data(), int(msg::kAppTitle.size()));
+    request.title = AppTitle();
     request.text = text;
     platform.ShowMessage(owner, request);
 }

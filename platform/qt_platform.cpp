@@ -1,4 +1,4 @@
-#include "qt_platform.h"
+#include "platform/qt_platform.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -10,7 +10,7 @@
 #include <QSettings>
 #include <QUrl>
 
-#include "modal_guard.h"
+#include "platform/modal_guard.h"
 #include "print/page_printer.h"
 
 namespace gw {

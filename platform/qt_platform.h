@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "platform.h"
+#include "platform/platform.h"
 
 class QPrinter;
 

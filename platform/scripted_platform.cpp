@@ -1,4 +1,4 @@
-#include "scripted_platform.h"
+#include "platform/scripted_platform.h"
 
 #include <QDialog>
 #include <QWindow>

@@ -1,4 +1,4 @@
-#include "clock_text.h"
+#include "print/clock_text.h"
 
 #include <QDate>
 #include <QLocale>

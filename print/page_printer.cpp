@@ -1,4 +1,4 @@
-#include "page_printer.h"
+#include "print/page_printer.h"
 
 #include <QFontMetricsF>
 #include <QPagedPaintDevice>

@@ -1,4 +1,4 @@
-#include "report_copies.h"
+#include "print/report_copies.h"
 
 namespace gw {
 

@@ -1,21 +1,15 @@
-#include "about_box.h"
+#include "shell/about_box.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
-#include "app_icon.h"
-#include "ui/common/field_style.h"
+#include "shell/app_icon.h"
+#include "ui/common/controls.h"
+#include "ui/common/layout.h"
 
 namespace gw {
 namespace {
-
-// Twips, as the box is laid out, to pixels at 96 pixels per inch.
-constexpr int Px(int twips) { return twips / 15; }
-
-QRect Twips(int left, int top, int width, int height) {
-    return QRect(Px(left), Px(top), Px(width), Px(height));
-}
 
 const char* const kDescription = "Description: Calculate highway curve information.";
 const char* const kAuthor = "Written by the Gradewise developers.";
@@ -36,32 +30,17 @@ QString frmAbout::VersionLine() {
 }
 
 frmAbout::frmAbout(QWidget* parent) : QDialog(parent) {
-    setObjectName(QStringLiteral("frmAbout"));
-    setWindowTitle(QStringLiteral("About Gradewise"));
-    setFixedSize(Px(5820), Px(3795));
-    setFont(DialogFont());
-    setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowCloseButtonHint);
+    SetUpFixedDialog(*this, "frmAbout", QStringLiteral("About Gradewise"), Twips(0, 0, 5820, 3795).size());
 
-    auto* ok = new QPushButton(QStringLiteral("OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setGeometry(Twips(3840, 3240, 1260, 345));
+    QPushButton* ok = &AddButton(*this, "cmdOK", QStringLiteral("OK"), Twips(3840, 3240, 1260, 345));
     ok->setDefault(true);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);  // Escape rejects: also closes
 
-    auto* icon = new QLabel(this);
-    icon->setObjectName(QStringLiteral("picIcon"));
-    icon->setGeometry(Twips(240, 240, 540, 540));
-    icon->setPixmap(AppIcon().pixmap(icon->size()));
-
-    auto label = [this](const char* name, const QString& text, QRect rect) {
-        auto* l = new QLabel(text, this);
-        l->setObjectName(QString::fromLatin1(name));
-        l->setGeometry(rect);
-        return l;
-    };
-    label("lblVersion", VersionLine(), Twips(1050, 180, 3885, 225));
-    label("lblDescription", QString::fromLatin1(kDescription), Twips(1050, 525, 3885, 330));
-    label("lblAuthor", QString::fromLatin1(kAuthor), Twips(1050, 1080, 3885, 330));
+    QLabel& icon = AddLabel(*this, "picIcon", {}, Twips(240, 240, 540, 540));
+    icon.setPixmap(AppIcon().pixmap(icon.size()));
+    AddLabel(*this, "lblVersion", VersionLine(), Twips(1050, 180, 3885, 225));
+    AddLabel(*this, "lblDescription", QString::fromLatin1(kDescription), Twips(1050, 525, 3885, 330));
+    AddLabel(*this, "lblAuthor", QString::fromLatin1(kAuthor), Twips(1050, 1080, 3885, 330));
 
     auto* disclaimer = new QPlainTextEdit(QString::fromLatin1(kDisclaimer), this);
     disclaimer->setObjectName(QStringLiteral("txtDisclaimer"));

@@ -1,4 +1,4 @@
-#include "frame_placement.h"
+#include "shell/frame_placement.h"
 
 #include <QEvent>
 #include <QWidget>

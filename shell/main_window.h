@@ -5,13 +5,12 @@
 #include <QStringList>
 #include <memory>
 
-#include "files/commands/curve_window_host.h"
-#include "main_menus.h"
-#include "placement.h"
+#include "commands/curve_window_host.h"
+#include "shell/main_menus.h"
+#include "shell/placement.h"
 #include "ui/curve/window_slots.h"
 
 class QMdiArea;
-class QMdiSubWindow;
 
 namespace gw {
 
@@ -40,7 +39,7 @@ public:
     // The curve window commands act on: the current child even while the frame is
     // not the active window.
     frmCrestCurve* ActiveCurveWindow() const override;
-    frmCrestCurve* OpenCurveWindow(int slot) override;
+    frmCrestCurve& OpenCurveWindow(WindowSlot& slot) override;
     // Created on first use and kept, hidden, with its last answer.
     frmInformation& UnitsDialog();
 
@@ -51,8 +50,6 @@ public:
     void mnuRecentFile_Click(int index);
     // The curve files named at start-up, each opened as Open opens a chosen file.
     void OpenFiles(const QStringList& paths);
-    FileCommands& Files() { return *m_files; }
-    RecentFilesMenu& RecentFileMenu() { return *m_recent; }
     void mnuFileExit_Click();
     void mnuCloseAll_Click();
     void mnuWindowCascade_Click();
@@ -72,8 +69,6 @@ protected:
 
 private:
     void ConnectMenus();
-    void ConnectFileMenu();
-    QMdiSubWindow* AddCurveWindow(frmCrestCurve* window);
     void MDIForm_Unload();
     void RestorePlacement();
 

@@ -1,16 +1,16 @@
-#include "placement.h"
+#include "shell/placement.h"
 
 #include <cmath>
 #include <string>
 
 #include "core/numbers.h"
 #include "files/settings_store.h"
+#include "ui/common/layout.h"
 
 namespace gw {
 namespace {
 
 constexpr const char* kSection = "Settings";
-constexpr float kTwipsPerPixel = 15;
 
 struct Key {
     const char* name;
@@ -51,13 +51,13 @@ void StorePlacement(SettingsStore& store, const Placement& placement) {
 }
 
 QRect PlacementToPixels(const Placement& p) {
-    auto px = [](float twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); };
+    auto px = [](float twips) { return static_cast<int>(std::lround(twips / float(kTwipsPerPixel))); };
     return QRect(px(p.left), px(p.top), px(p.width), px(p.height));
 }
 
 Placement PlacementFromPixels(const QRect& frame) {
-    return Placement{frame.x() * kTwipsPerPixel, frame.y() * kTwipsPerPixel, frame.width() * kTwipsPerPixel,
-                     frame.height() * kTwipsPerPixel};
+    const float twips = kTwipsPerPixel;
+    return Placement{frame.x() * twips, frame.y() * twips, frame.width() * twips, frame.height() * twips};
 }
 
 Placement PlacementToStore(const Placement& restored, const QRect& frame) {

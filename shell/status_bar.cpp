@@ -1,4 +1,4 @@
-#include "status_bar.h"
+#include "shell/status_bar.h"
 
 #include <QLabel>
 #include <QTimer>
@@ -26,8 +26,8 @@ MainStatusBar::MainStatusBar(Platform& platform, QWidget* parent) : QStatusBar(p
     m_status->setText(QStringLiteral("Status"));
     m_date = Panel(QStringLiteral("Date"), this);
     m_time = Panel(QStringLiteral("Time"), this);
-    m_date->setAccessibleName(tr("Date"));
-    m_time->setAccessibleName(tr("Time"));
+    m_date->setAccessibleName(QStringLiteral("Date"));
+    m_time->setAccessibleName(QStringLiteral("Time"));
     // The date and time panels share one width, wide enough for either.
     const int width = fontMetrics().horizontalAdvance(QStringLiteral("00/00/0000 00:00:00 PM")) + 12;
     m_date->setFixedWidth(width);

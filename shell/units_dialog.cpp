@@ -1,45 +1,34 @@
-#include "units_dialog.h"
+#include "shell/units_dialog.h"
 
 #include <QGroupBox>
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "ui/common/field_style.h"
+#include "core/stations.h"
+#include "platform/texts.h"
+#include "ui/common/controls.h"
+#include "ui/common/layout.h"
 
 namespace gw {
-namespace {
 
-// The dialog is laid out in twips, 15 to the pixel.
-constexpr QRect Twips(int left, int top, int width, int height) {
-    return QRect(left / 15, top / 15, width / 15, height / 15);
-}
-
-}  // namespace
-
-frmInformation::frmInformation(QWidget* parent)
-    : QDialog(parent, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::MSWindowsFixedSizeDialogHint) {
-    setObjectName(QStringLiteral("frmInformation"));
-    setWindowTitle(QStringLiteral("Measurement Info"));
-    setFixedSize(Twips(0, 0, 1965, 2355).size());
-    setFont(DialogFont());
+frmInformation::frmInformation(QWidget* parent) : QDialog(parent) {
+    // Answered with OK or Cancel only: no close box.
+    SetUpFixedDialog(*this, "frmInformation", QStringLiteral("Measurement Info"), Twips(0, 0, 1965, 2355).size(),
+                     CloseBox::None);
 
     auto* frame = new QGroupBox(QStringLiteral("Units"), this);
     frame->setObjectName(QStringLiteral("frUnits"));
     frame->setGeometry(Twips(240, 240, 1335, 1335));
-    m_optMetric = new QRadioButton(QStringLiteral("Metric"), frame);
+    m_optMetric = new QRadioButton(ToQString(kMetric), frame);
     m_optMetric->setObjectName(QStringLiteral("optMetric"));
     m_optMetric->setGeometry(Twips(120, 360, 1095, 255));
-    m_optEnglish = new QRadioButton(QStringLiteral("English"), frame);
+    m_optEnglish = new QRadioButton(ToQString(kEnglish), frame);
     m_optEnglish->setObjectName(QStringLiteral("optEnglish"));
     m_optEnglish->setGeometry(Twips(120, 720, 1095, 255));
 
-    auto* ok = new QPushButton(QStringLiteral("&OK"), this);
-    ok->setObjectName(QStringLiteral("cmdOK"));
-    ok->setGeometry(Twips(120, 1800, 735, 375));
+    QPushButton* ok = &AddButton(*this, "cmdOK", QStringLiteral("&OK"), Twips(120, 1800, 735, 375));
     ok->setDefault(true);
-    auto* cancel = new QPushButton(QStringLiteral("&Cancel"), this);
-    cancel->setObjectName(QStringLiteral("cmdCancel"));
-    cancel->setGeometry(Twips(960, 1800, 735, 375));
+    QPushButton* cancel = &AddButton(*this, "cmdCancel", QStringLiteral("&Cancel"), Twips(960, 1800, 735, 375));
     connect(ok, &QPushButton::clicked, this, &frmInformation::cmdOK_Click);
     connect(cancel, &QPushButton::clicked, this, &frmInformation::cmdCancel_Click);
 
@@ -59,9 +48,9 @@ void frmInformation::showEvent(QShowEvent* event) {
 
 void frmInformation::cmdOK_Click() {
     if (MetricOn()) {
-        m_tag = QStringLiteral("Metric,PVI");
+        m_tag = ToQString(kMetric) + QStringLiteral(",PVI");
     } else if (EnglishOn()) {
-        m_tag = QStringLiteral("English,PVI");
+        m_tag = ToQString(kEnglish) + QStringLiteral(",PVI");
     }
     accept();
 }

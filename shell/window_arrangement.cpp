@@ -1,4 +1,4 @@
-#include "window_arrangement.h"
+#include "shell/window_arrangement.h"
 
 #include <QMdiArea>
 #include <QMdiSubWindow>

@@ -1,4 +1,4 @@
-#include "window_list.h"
+#include "shell/window_list.h"
 
 #include <QAction>
 #include <QMdiArea>

@@ -4,7 +4,7 @@
 
 #include "core/curve_solver.h"
 #include "core/elevations.h"
-#include "sheet_builders.h"
+#include "tests/core/sheet_builders.h"
 
 namespace gw {
 namespace {
@@ -82,8 +82,8 @@ TEST(AutoStationingOkTest, BeginningStationAtEitherEndPassesInBothUnits) {
             const ElevationTable& t = s.elevations;
             AutoStationing d = Spacing(s, (atPvt ? t.txtPVTSTA : t.txtPVCSTA).c_str(),
                                        (atPvt ? t.txtPVTSTAM : t.txtPVCSTAM).c_str(), "0", "5");
-            EXPECT_TRUE(d.CheckOnLeave("txtBeginSTA").empty()) << units;
-            EXPECT_TRUE(d.CheckOnLeave("txtBeginSTAM").empty()) << units;
+            EXPECT_TRUE(d.CheckOnLeave(AutoStationFieldNamed("txtBeginSTA")).empty()) << units;
+            EXPECT_TRUE(d.CheckOnLeave(AutoStationFieldNamed("txtBeginSTAM")).empty()) << units;
             EXPECT_FALSE(d.Accept()) << units << (atPvt ? " PVT" : " PVC");
         }
     }
@@ -199,7 +199,7 @@ TEST(AutoStationingChecksTest, LeaveChecksRunOnlyForInputsOfTheMode) {
         SCOPED_TRACE(std::string(r.field) + "=" + r.text);
         AutoStationing d = r.spacing ? Spacing(s, r.beginSta, "0", "0", "0") : NewAutoStationing(s);
         *d.Field(r.field) = r.text;
-        EXPECT_EQ(d.CheckOnLeave(r.field), r.messages);
+        EXPECT_EQ(d.CheckOnLeave(AutoStationFieldNamed(r.field)), r.messages);
     }
 }
 

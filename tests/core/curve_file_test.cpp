@@ -5,7 +5,7 @@
 #include <array>
 #include <random>
 
-#include "sheet_builders.h"
+#include "tests/core/sheet_builders.h"
 
 namespace gw {
 namespace {

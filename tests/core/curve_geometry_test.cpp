@@ -9,7 +9,7 @@
 #include "core/curve_solver.h"
 #include "core/numbers.h"
 #include "core/stations.h"
-#include "sheet_builders.h"
+#include "tests/core/sheet_builders.h"
 
 namespace gw {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "core/curve_file.h"
 #include "core/curve_solver.h"
-#include "sheet_builders.h"
+#include "tests/core/sheet_builders.h"
 
 namespace gw {
 namespace {

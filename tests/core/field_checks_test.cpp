@@ -23,7 +23,7 @@ TEST_P(CurveFieldLeaveTest, ShowsTheFirstFailingMessage) {
     if (field.size() > 4 && field.compare(field.size() - 4, 4, "STAM") == 0) {
         *s.Field(field.substr(0, field.size() - 1)) = c.wholeText;
     }
-    auto message = CheckCurveFieldOnLeave(s, c.field);
+    auto message = CheckCurveFieldOnLeave(s, CurveFieldNamed(c.field));
     EXPECT_EQ(message.value_or(""), c.message) << c.field << " = \"" << c.text << '"';
 }
 

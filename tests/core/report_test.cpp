@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "core/curve_solver.h"
-#include "sheet_builders.h"
+#include "tests/core/sheet_builders.h"
 
 namespace gw {
 namespace {

@@ -5,7 +5,7 @@
 #include "core/curve_solver.h"
 #include "core/elevations.h"
 #include "core/stations.h"
-#include "sheet_builders.h"
+#include "tests/core/sheet_builders.h"
 
 namespace gw {
 namespace {

@@ -7,7 +7,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "temp_folder.h"
+#include "tests/files/temp_folder.h"
 
 namespace gw {
 namespace {

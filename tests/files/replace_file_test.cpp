@@ -7,8 +7,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "temp_folder.h"
 #include "tests/disk_faults.h"
+#include "tests/files/temp_folder.h"
 
 namespace gw {
 namespace {

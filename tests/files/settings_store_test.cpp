@@ -12,7 +12,7 @@
 #include <thread>
 #include <unistd.h>
 
-#include "temp_folder.h"
+#include "tests/files/temp_folder.h"
 
 namespace gw {
 namespace {

@@ -13,8 +13,8 @@
 
 #include "shell/about_box.h"
 #include "shell/units_dialog.h"
+#include "tests/ui/ui_fixture.h"
 #include "ui/elevations/auto_station_dialog.h"
-#include "ui_fixture.h"
 
 namespace gw::test {
 namespace {
@@ -97,7 +97,7 @@ INSTANTIATE_TEST_SUITE_P(
         WindowCase{"CurveWindow", [](UiTest& t, frmMain&) -> QWidget* { return &static_cast<CaptionsFitTest&>(t).Curve(); }},
         WindowCase{"ElevationsWindow",
                    [](UiTest& t, frmMain& main) -> QWidget* {
-                       return main.Slots().ElevationsWindowOf(static_cast<CaptionsFitTest&>(t).Curve().Slot());
+                       return main.Slots()[static_cast<CaptionsFitTest&>(t).Curve().Slot()].elevationsWindow.get();
                    }},
         WindowCase{"AutoStationingDialog",
                    [](UiTest& t, frmMain&) -> QWidget* { return static_cast<CaptionsFitTest&>(t).AutoStation(); }},

@@ -3,7 +3,7 @@
 
 #include <QDir>
 
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

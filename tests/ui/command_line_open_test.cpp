@@ -3,8 +3,8 @@
 
 #include <QMdiArea>
 
-#include "ui_fixture.h"
 #include "shell/command_line.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

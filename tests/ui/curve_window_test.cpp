@@ -12,7 +12,7 @@
 #include <cstring>
 #include <memory>
 
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {
@@ -35,7 +35,7 @@ protected:
         names.sort();
         return names;
     }
-    bool Changed() { return Main().Slots().State(1).changed; }
+    bool Changed() { return Main().Slots()[1].changed; }
     static void Press(QWidget* w, Qt::Key key) {
         QTest::keyClick(w, key);
         Settle();
@@ -78,8 +78,8 @@ TEST_P(ModeTest, SwitchingEmptiesTheSheetAndSetsInputsTabOrderAndCaption) {
 
     for (QLineEdit* f : w.findChildren<QLineEdit*>()) EXPECT_TRUE(f->text().isEmpty()) << f->objectName().toStdString();
     EXPECT_TRUE(w.findChild<QLabel*>("lblSDL")->text().isEmpty());
-    EXPECT_TRUE(Main().Slots().Elevations(1).rows[19].txtTOTSTAM1.empty());
-    EXPECT_EQ(Main().Slots().Elevations(1).txtPVCSTA, "3");  // the elevations window's station copies stay
+    EXPECT_TRUE(Main().Slots()[1].elevationsWindow->Table().rows[19].txtTOTSTAM1.empty());
+    EXPECT_EQ(Main().Slots()[1].elevationsWindow->Table().txtPVCSTA, "3");  // the elevations window's station copies stay
     EXPECT_FALSE(Changed());  // a mouse command
     EXPECT_EQ(w.findChild<QPushButton*>("cmdCalcP")->text(), QString::fromLatin1(c.calcCaption));
     EXPECT_EQ(SortedInputs(w), Sorted(c.tabOrder));

@@ -3,7 +3,7 @@
 
 #include <QRadioButton>
 
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 #include "ui/elevations/auto_station_dialog.h"
 
 namespace gw::test {
@@ -29,7 +29,7 @@ protected:
         });
         Press(e, "cmdAutoStation");
     }
-    const ElevationTable& Rows(const frmCrestCurve& w) { return Main().Slots().Elevations(w.Slot()); }
+    ElevationTable Rows(const frmCrestCurve& w) { return Main().Slots()[w.Slot()].elevationsWindow->Table(); }
 };
 
 TEST_F(ElevationsFlowTest, AnEmptySheetShowsCalcsFirstMessageAndNoWindow) {
@@ -43,7 +43,7 @@ TEST_F(ElevationsFlowTest, AnEmptySheetShowsCalcsFirstMessageAndNoWindow) {
 
 TEST_F(ElevationsFlowTest, RowsTypedAndComputedStayWithTheCurveUntilAStationMoves) {
     frmCrestCurve& w = SolvedEnglishCurve();
-    Main().Slots().State(w.Slot()).changed = false;
+    Main().Slots()[w.Slot()].changed = false;
     CalculateElevations(w, [](ElevationsWindow& e) {
         EXPECT_EQ(e.Field("txtPVCSTA")->text(), "10");
         EXPECT_EQ(QApplication::focusWidget(), e.RowField("txtTOTSTA1", 0));

@@ -9,7 +9,7 @@
 #include <sys/resource.h>
 
 #include "core/curve_file.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {
@@ -103,8 +103,8 @@ TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
 TEST_F(FileCommandsTest, AFourLineFileOpensWithEmptyElevationsInAReusedSlot) {
     // Slot 1 last held rows of another curve.
     frmCrestCurve& first = NewCurve();
-    Main().Slots().Elevations(1).rows[0] = {"1", "2", "3"};
-    Main().Slots().Elevations(1).txtVOffset = "4";
+    Main().Slots()[1].elevationsWindow->RowField("txtTOTSTA1", 0)->setText("1");
+    Main().Slots()[1].elevationsWindow->Field("txtVOffset")->setText("4");
     Close(first);
 
     const QByteArray fourLines =
@@ -115,8 +115,8 @@ TEST_F(FileCommandsTest, AFourLineFileOpensWithEmptyElevationsInAReusedSlot) {
     ASSERT_NE(opened, nullptr);
     EXPECT_EQ(opened->Slot(), 1);
     EXPECT_EQ(opened->Field("txtPVISTAM")->text(), "45.5");
-    EXPECT_EQ(Main().Slots().Elevations(1).rows[0].txtTOTSTA1, "");
-    EXPECT_EQ(Main().Slots().Elevations(1).txtVOffset, "");
+    EXPECT_EQ(Main().Slots()[1].elevationsWindow->Table().rows[0].txtTOTSTA1, "");
+    EXPECT_EQ(Main().Slots()[1].elevationsWindow->Table().txtVOffset, "");
     // Saved again unchanged, it is the full eight-line image.
     Save();
     EXPECT_TRUE(Bytes(FilePath("four.gwf")).startsWith(fourLines));

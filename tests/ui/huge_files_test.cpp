@@ -4,9 +4,9 @@
 #include <QElapsedTimer>
 #include <QLabel>
 
-#include "ui_fixture.h"
 #include "files/curve_file_io.h"
 #include "tests/qt_test_printers.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -10,7 +10,7 @@
 #include <QTest>
 
 #include "shell/status_bar.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {
@@ -109,7 +109,7 @@ TEST_F(MainWindowTest, CloseAllStopsAtAWindowThatRefusesToClose) {
     Settle();
     EXPECT_EQ(refuser->asked, 1);
     EXPECT_EQ(Main().MdiArea().subWindowList().size(), 3);
-    EXPECT_FALSE(Main().Slots().State(3).free);
+    EXPECT_FALSE(Main().Slots()[3].free);
 }
 
 struct Ending {

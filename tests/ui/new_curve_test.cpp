@@ -8,7 +8,7 @@
 
 #include "shell/units_dialog.h"
 #include "tests/qt_test_printers.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {
@@ -35,7 +35,7 @@ TEST_F(NewCurveTest, TheUnitsDialogOffersTheLastChoiceAndTitlesTheWindowByIt) {
     frmCrestCurve* metric = answer(nullptr);
     ASSERT_NE(metric, nullptr);
     EXPECT_EQ(metric->windowTitle(), "Vertical Curve - Metric: Untitled");
-    EXPECT_FALSE(main.Slots().State(1).changed);
+    EXPECT_FALSE(main.Slots()[1].changed);
     answer("optEnglish");
     frmCrestCurve* english = answer(nullptr);
     EXPECT_EQ(english->windowTitle(), "Vertical Curve - English: Untitled");

@@ -8,7 +8,7 @@
 #include "shell/about_box.h"
 #include "shell/placement.h"
 #include "tests/qt_test_printers.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

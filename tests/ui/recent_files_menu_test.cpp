@@ -3,9 +3,9 @@
 // The list's own order rules are the files library's and tested there.
 
 #include "core/curve_file.h"
-#include "ui_fixture.h"
 #include "files/settings_store.h"
 #include "tests/qt_test_printers.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -5,15 +5,15 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include "commands/print_command.h"
 #include "core/curve_solver.h"
-#include "tests/core/sheet_builders.h"
-#include "tests/qt_test_printers.h"
 #include "core/report.h"
 #include "platform/scripted_platform.h"
 #include "print/clock_text.h"
-#include "print/curve_report.h"
 #include "print/page_printer.h"
 #include "print/report_copies.h"
+#include "tests/core/sheet_builders.h"
+#include "tests/qt_test_printers.h"
 
 namespace gw {
 namespace {

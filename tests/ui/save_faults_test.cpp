@@ -5,9 +5,9 @@
 #include <sys/stat.h>
 #include <sys/sysmacros.h>
 
-#include "ui_fixture.h"
 #include "tests/disk_faults.h"
 #include "tests/qt_test_printers.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -1,4 +1,4 @@
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 #include <QApplication>
 #include <QDir>

@@ -17,7 +17,7 @@
 #include <functional>
 #include <memory>
 
-#include "files/commands/recent_files_menu.h"
+#include "commands/recent_files_menu.h"
 #include "ui/elevations/elevations_window.h"
 
 #include "platform/scripted_platform.h"
@@ -82,7 +82,7 @@ protected:
         Settle();
     }
 
-    bool Changed(const frmCrestCurve& w) { return Main().Slots().State(w.Slot()).changed; }
+    bool Changed(const frmCrestCurve& w) { return Main().Slots()[w.Slot()].changed; }
     static QString Title(const frmCrestCurve& w) { return w.windowTitle(); }
 
     // What the recent-file entries show, visible ones only.

@@ -8,8 +8,8 @@
 
 #include "files/settings_store.h"
 #include "platform/file_names.h"
-#include "ui_fixture.h"
 #include "tests/qt_test_printers.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

@@ -4,7 +4,7 @@
 #include <QMdiSubWindow>
 
 #include "shell/window_arrangement.h"
-#include "ui_fixture.h"
+#include "tests/ui/ui_fixture.h"
 
 namespace gw::test {
 namespace {

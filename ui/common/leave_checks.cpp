@@ -1,4 +1,4 @@
-#include "leave_checks.h"
+#include "ui/common/leave_checks.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -90,15 +90,22 @@ void LeaveChecks::Report() {
     m_pending = false;
     const std::vector<QString> messages = std::move(m_pendingMessages);
     m_pendingMessages.clear();
-    QPointer<QLineEdit> field = m_pendingField;
-    if (!field) return;  // gone with its window
-    for (const QString& message : messages) ShowRefusal(m_platform, &m_window, message);
-    // Nothing re-activates our window after a box when no window manager runs.
-    if (auto* sub = qobject_cast<QMdiSubWindow*>(m_window.parentWidget())) {
+    // The field may have gone with its window meanwhile.
+    if (QLineEdit* field = m_pendingField) Refuse(m_platform, m_window, messages, *field);
+}
+
+void ComeBack(QWidget& window, QWidget* focus) {
+    if (auto* sub = qobject_cast<QMdiSubWindow*>(window.parentWidget())) {
         if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
     }
-    m_window.window()->activateWindow();
-    if (field) field->setFocus(Qt::OtherFocusReason);
+    window.window()->activateWindow();
+    if (focus) focus->setFocus(Qt::OtherFocusReason);
+}
+
+void Refuse(Platform& platform, QWidget& window, const std::vector<QString>& messages, QWidget& field) {
+    QPointer<QWidget> alive = &field;
+    for (const QString& message : messages) ShowRefusal(platform, &window, message);
+    ComeBack(window, alive);
 }
 
 bool ProducesCharacter(const QKeyEvent& key) {

@@ -1,5 +1,6 @@
 #pragma once
-// Checks that run when the user leaves a field, shared by every window.
+// Checks that run when the user leaves a field, and the way back to the field after
+// its refusal, shared by every window.
 //
 // The user leaves a field by Tab, Shift+Tab, a click or an access key; the focus
 // moving because the program moved it, because another window, a menu or a popup
@@ -57,6 +58,14 @@ private:
     bool m_reporting = false;
     QObject* m_inputHold = nullptr;  // swallows the user's input while a report is pending
 };
+
+// After a box or a modal dialog has closed, nothing gives our window back its
+// activation when no window manager runs: activates `window`, its document window in
+// the frame too, and puts the focus on `focus` when one is given.
+void ComeBack(QWidget& window, QWidget* focus = nullptr);
+
+// A refusal: each message in a box over `window`, then back to `field`.
+void Refuse(Platform& platform, QWidget& window, const std::vector<QString>& messages, QWidget& field);
 
 // True for a key press that produces a character (letters, digits, signs,
 // Backspace, Enter), as opposed to arrows, Delete and the like.

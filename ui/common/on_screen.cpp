@@ -1,4 +1,4 @@
-#include "on_screen.h"
+#include "ui/common/on_screen.h"
 
 #include <QEvent>
 #include <QWidget>

@@ -8,8 +8,7 @@ class QLineEdit;
 
 namespace gw {
 
-// 0 lifts the limit.
+// Once for a field; a limit of 0 is none.
 void SetTypingLimit(QLineEdit& field, int limit);
-int TypingLimit(const QLineEdit& field);
 
 }  // namespace gw

@@ -1,4 +1,4 @@
-#include "user_edits.h"
+#include "ui/common/user_edits.h"
 
 #include <QEvent>
 #include <QKeyEvent>

@@ -1,16 +1,14 @@
-#include "curve_picture.h"
+#include "ui/curve/curve_picture.h"
 
 #include <QLabel>
 #include <QPainter>
 #include <QPainterPath>
 
-#include "curve_layout.h"
-
 namespace gw {
 namespace {
 
 // Everything below is in the curve window's coordinates, so each label can be read
-// against the field positions in curve_layout.cpp.
+// against the places of the fields in core/curve_fields.cpp.
 const QPointF kPVC(113, 222);
 const QPointF kPVI(317, 104);
 const QPointF kPVT(521, 196);
@@ -55,7 +53,7 @@ void CurvePicture::paintEvent(QPaintEvent*) {
     p.fillRect(rect(), Qt::white);
     p.setPen(QColor(160, 160, 160));
     p.drawRect(rect().adjusted(0, 0, -1, -1));
-    p.translate(-curve_layout::kPicture1.topLeft());
+    p.translate(-pos());
 
     QFont plain = font();
     QFont bold = plain;
@@ -88,9 +86,9 @@ void CurvePicture::paintEvent(QPaintEvent*) {
     p.setPen(QPen(kTangentInk, 1, Qt::DotLine));
     p.drawLine(kPVI - QPointF(0, 4), QPointF(kPVI.x(), 77));
     p.setPen(kInk);
-    Text(p, {190, 24, 86, 19}, tr("PVI  Sta."));
+    Text(p, {190, 24, 86, 19}, QStringLiteral("PVI  Sta."));
     p.setFont(plain);
-    Text(p, {190, 56, 86, 19}, tr("Elevation"));
+    Text(p, {190, 56, 86, 19}, QStringLiteral("Elevation"));
     Text(p, {313, 24, 23, 19}, QStringLiteral("+"), Qt::AlignCenter);
 
     // Grades on their tangents.
@@ -104,13 +102,13 @@ void CurvePicture::paintEvent(QPaintEvent*) {
     p.drawLine(kPVI + QPointF(0, 4), middle);
     p.setPen(kInk);
     p.setFont(small);
-    Text(p, {262, 120, 50, 14}, tr("M.O."));
+    Text(p, {262, 120, 50, 14}, QStringLiteral("M.O."));
 
     // Turning point: the high (or low) point of the curve.
     const QPointF turning = OnCurve(0.562);
     p.setBrush(Qt::white);
     p.drawEllipse(turning, 3, 3);
-    Text(p, {turning.x() + 5, turning.y() - 18, 40, 14}, tr("T.P."), Qt::AlignLeft | Qt::AlignVCenter);
+    Text(p, {turning.x() + 5, turning.y() - 18, 40, 14}, QStringLiteral("T.P."), Qt::AlignLeft | Qt::AlignVCenter);
 
     // Length of curve: a dimension line from PVC to PVT, broken by its field.
     p.setPen(QPen(kTangentInk, 1));
@@ -123,36 +121,36 @@ void CurvePicture::paintEvent(QPaintEvent*) {
     Arrowhead(p, {kPVC.x(), kDimensionY}, -1);
     Arrowhead(p, {kPVT.x(), kDimensionY}, 1);
     p.setFont(plain);
-    Text(p, {236, 216, 155, 14}, tr("Length of curve"), Qt::AlignCenter);
+    Text(p, {236, 216, 155, 14}, QStringLiteral("Length of curve"), Qt::AlignCenter);
 
     // The two ends, each with its station and elevation underneath.
     p.setFont(bold);
-    Text(p, {57, 233, 50, 16}, tr("PVC"), Qt::AlignLeft | Qt::AlignVCenter);
-    Text(p, {528, 233, 50, 16}, tr("PVT"), Qt::AlignRight | Qt::AlignVCenter);
+    Text(p, {57, 233, 50, 16}, QStringLiteral("PVC"), Qt::AlignLeft | Qt::AlignVCenter);
+    Text(p, {528, 233, 50, 16}, QStringLiteral("PVT"), Qt::AlignRight | Qt::AlignVCenter);
     p.setFont(plain);
     for (qreal left : {57.0, 465.0}) {
-        Text(p, {left - 46, 255, 43, 19}, tr("Sta."));
-        Text(p, {left - 46, 284, 43, 19}, tr("Elev."));
+        Text(p, {left - 46, 255, 43, 19}, QStringLiteral("Sta."));
+        Text(p, {left - 46, 284, 43, 19}, QStringLiteral("Elev."));
         Text(p, {left + 33, 255, 23, 19}, QStringLiteral("+"), Qt::AlignCenter);
     }
 
     // The results column.
-    Text(p, {400, 25, 58, 19}, tr("M.O."));
-    if (!m_kindLabel || m_kindLabel->text().isEmpty()) {
+    Text(p, {400, 25, 58, 19}, QStringLiteral("M.O."));
+    if (m_kindLabel && m_kindLabel->text().isEmpty()) {
         p.setPen(kHintInk);
-        Text(p, curve_layout::kLblSDL, tr("S.D."), Qt::AlignLeft | Qt::AlignVCenter);
+        Text(p, m_kindLabel->geometry(), QStringLiteral("S.D."), Qt::AlignLeft | Qt::AlignVCenter);
         p.setPen(kInk);
     }
-    Text(p, {400, 79, 58, 19}, tr("T.P. Sta."));
+    Text(p, {400, 79, 58, 19}, QStringLiteral("T.P. Sta."));
     Text(p, {495, 79, 23, 19}, QStringLiteral("+"), Qt::AlignCenter);
 
     // What the boxes mean and which units they are in.
     p.setPen(kHintInk);
     p.setFont(small);
     Text(p, {19, 78, 110, 28},
-         m_metric ? tr("Metres\n1 station = 1000 m") : tr("Feet\n1 station = 100 ft"),
+         m_metric ? QStringLiteral("Metres\n1 station = 1000 m") : QStringLiteral("Feet\n1 station = 100 ft"),
          Qt::AlignLeft | Qt::AlignTop);
-    Text(p, {172, 302, 290, 15}, tr("White: known data  \u00b7  grey: results  \u00b7  Enter = Calc"),
+    Text(p, {172, 302, 290, 15}, QStringLiteral("White: known data  \u00b7  grey: results  \u00b7  Enter = Calc"),
          Qt::AlignCenter);
 }
 

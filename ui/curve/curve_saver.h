@@ -1,18 +1,17 @@
 #pragma once
 // What the close question needs of the file commands, which sit above the curve
-// windows: the save dialog and the writer.
-
-#include <QString>
+// windows and are handed to each curve window as it is made.
 
 namespace gw {
+
+class frmCrestCurve;
 
 class CurveSaver {
 public:
     virtual ~CurveSaver() = default;
-    // The chosen path, or the empty text when the user cancelled.
-    virtual QString ShowSaveAsDialog(const QString& initialName) = 0;
-    // Writes the active curve window; on success it takes `newTitle` and is unchanged.
-    virtual void WriteCurveFile(const QString& path, const QString& newTitle) = 0;
+    // Yes in the close question: the curve saved as Save saves it, with "untitled"
+    // proposed as the name of an untitled curve.
+    virtual void SaveBeforeClosing(frmCrestCurve& curve) = 0;
 };
 
 }  // namespace gw

@@ -1,17 +1,18 @@
 #pragma once
 // frmCrestCurve: the document window of one vertical curve. It holds the curve's
-// texts in its fields; every command gathers a CurveSheet from them, lets the core
-// work on it and puts the texts back.
+// texts in its fields, one per row of the curve window's table; every command
+// gathers a CurveSheet from them, lets the core work on it and puts the texts back.
 
 #include <QString>
 #include <QWidget>
-#include <map>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "core/curve_fields.h"
 #include "core/curve_sheet.h"
 #include "core/refusal.h"
 
-class QGroupBox;
 class QKeyEvent;
 class QLabel;
 class QLineEdit;
@@ -21,21 +22,24 @@ class QRadioButton;
 namespace gw {
 
 class CurvePicture;
+class CurveSaver;
 class Platform;
-class WindowSlots;
+struct WindowSlot;
 
 class frmCrestCurve : public QWidget {
     Q_OBJECT
 
 public:
-    // Form_Load: takes the unit system ("Metric" or "English"), enters the PVI mode
-    // and empties itself and the slot's elevations.
-    frmCrestCurve(WindowSlots& windowSlots, int slot, const QString& unitSystem, Platform& platform,
+    // Form_Load: takes its slot and the unit system ("Metric" or "English"), enters
+    // the PVI mode and empties itself and the slot's elevations. `saver` saves the
+    // curve when the close question is answered Yes.
+    frmCrestCurve(WindowSlot& slot, const QString& unitSystem, CurveSaver& saver, Platform& platform,
                   QWidget* parent = nullptr);
 
-    int Slot() const { return m_slot; }
-    QString Tag() const { return QString::number(m_slot); }
+    int Slot() const;
+    QString Tag() const { return QString::number(Slot()); }
     QString UnitSystem() const;
+    // The text field of that name; any other name throws.
     QLineEdit* Field(std::string_view name) const;
 
     CurveSheet GatherSheet() const;
@@ -58,9 +62,11 @@ private:
     void BuildControls();
     void WatchLeaveChecks();
     void ApplyMode(bool pvi);
-    void FocusFirstInput();
+    QLineEdit* FirstInput() const;
     void Report(const Refusal& refusal);
-    void PutFocusBack(QLineEdit* field);
+    // The control made for a row of the table.
+    template <class Widget>
+    Widget* ControlOf(const CurveField& field) const;
 
     // Form_KeyPress and the Enter key; true when the key is discarded.
     bool Form_KeyPress(QLineEdit* field, QKeyEvent* key);
@@ -68,12 +74,11 @@ private:
     void Form_QueryUnload(bool& cancel);
     void Form_Unload();
 
-    WindowSlots& m_slots;
+    WindowSlot& m_slot;
+    CurveSaver& m_saver;
     Platform& m_platform;
-    const int m_slot;
 
-    std::map<std::string_view, QLineEdit*> m_fields;
-    QGroupBox* m_frame1 = nullptr;
+    std::vector<std::pair<const CurveField*, QWidget*>> m_controls;  // in table order
     QRadioButton* m_optPVI = nullptr;
     QRadioButton* m_optPVCPVT = nullptr;
     QLabel* m_lblSDL = nullptr;

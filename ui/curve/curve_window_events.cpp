@@ -1,28 +1,23 @@
-// The curve window's keyboard rules: every character key marks the curve changed and
-// Enter in an entry field runs Calc.
+// The curve window's keys and closing: every character key marks the curve changed,
+// Enter in an entry field runs Calc, and a curve changed since it was created, opened
+// or saved is not closed without asking whether to save it first.
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 
-#include "curve_window.h"
+#include "core/titles.h"
+#include "platform/file_names.h"
 #include "platform/platform.h"
+#include "platform/texts.h"
 #include "ui/common/leave_checks.h"
-#include "window_slots.h"
+#include "ui/curve/curve_saver.h"
+#include "ui/curve/curve_window.h"
+#include "ui/curve/window_slots.h"
 
 namespace gw {
-namespace {
-
-// The twelve fields in which Enter runs Calc (the four pure results are not among them).
-bool IsEntryField(const QLineEdit& field) {
-    static const QStringList kResultsOnly = {"txtMO", "txtSD", "txtTPSTA", "txtTPSTAM"};
-    return !kResultsOnly.contains(field.objectName());
-}
-
-}  // namespace
 
 bool frmCrestCurve::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::KeyPress &&
@@ -34,29 +29,42 @@ bool frmCrestCurve::eventFilter(QObject* watched, QEvent* event) {
 
 bool frmCrestCurve::Form_KeyPress(QLineEdit* field, QKeyEvent* key) {
     if (!ProducesCharacter(*key)) return false;
-    m_slots.State(m_slot).changed = true;
-    const bool enter = key->key() == Qt::Key_Return || key->key() == Qt::Key_Enter;
-    if (enter && field && IsEntryField(*field)) {
-        // Enter does not leave the field, so the field's own check does not run first.
-        cmdCalcP_Click();
-        return true;
+    m_slot.changed = true;
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) return false;
+    // Enter runs Calc in every text field but the four that are results in both modes.
+    for (const auto& [row, control] : m_controls) {
+        if (control == field && row->kind != CurveFieldKind::Result) {
+            // Enter does not leave the field, so the field's own check does not run first.
+            cmdCalcP_Click();
+            return true;
+        }
     }
     return false;
 }
 
-void frmCrestCurve::Report(const Refusal& refusal) {
-    gw::ShowRefusal(m_platform, this, QString::fromStdString(refusal.message));
-    PutFocusBack(Field(refusal.field));
-}
+void frmCrestCurve::Form_QueryUnload(bool& cancel) {
+    if (!m_slot.changed) return;
 
-void frmCrestCurve::PutFocusBack(QLineEdit* field) {
-    if (!field) return;
-    // Without a window manager nothing re-activates our window after a box closes.
+    // The window being closed comes to the front first: the user sees which curve
+    // is meant, and it is the active curve window that Save writes.
     if (auto* sub = qobject_cast<QMdiSubWindow*>(parentWidget())) {
-        if (QMdiArea* area = sub->mdiArea()) area->setActiveSubWindow(sub);
+        if (QMdiArea* area = sub->mdiArea(); area && area->activeSubWindow() != sub) area->setActiveSubWindow(sub);
     }
-    window()->activateWindow();
-    field->setFocus(Qt::OtherFocusReason);
+
+    MessageRequest question;
+    question.title = AppTitle();
+    question.text = FileNameFromBytes(CloseQuestion(CurveNameFromTitle(FileNameBytes(windowTitle()))));
+    question.buttons = MessageButtons::YesNoCancel;
+    question.defaultButton = MessageButton::Yes;
+    question.icon = MessageIcon::Exclamation;
+    const MessageButton answer = m_platform.ShowMessage(this, question);
+    if (answer == MessageButton::Cancel) {
+        cancel = true;
+        return;
+    }
+    // The cancel flag is left alone: after a cancelled Save As or a failed write the
+    // curve closes unsaved, and the user has been told of a failure by its box.
+    if (answer == MessageButton::Yes) m_saver.SaveBeforeClosing(*this);
 }
 
 void frmCrestCurve::closeEvent(QCloseEvent* event) {
@@ -71,8 +79,8 @@ void frmCrestCurve::closeEvent(QCloseEvent* event) {
 }
 
 void frmCrestCurve::Form_Unload() {
-    m_slots.Release(m_slot);
-    m_slots.SetCurveWindow(m_slot, nullptr);
+    m_slot.free = true;
+    m_slot.curveWindow = nullptr;
 }
 
 }  // namespace gw

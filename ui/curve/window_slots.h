@@ -1,76 +1,52 @@
 #pragma once
-// The window slots: each curve window has a numbered slot that ties it to its
-// elevations data and its WindowState. The three tables grow together and never
-// shrink during a run; slot 0 exists from the start and is never handed out.
+// The window slots: each curve window has a numbered slot, the one record of what
+// belongs to its curve besides the window's own fields. Slots are never removed while
+// the program runs; slot 0 exists from the start and is never handed out.
 
 #include <QPointer>
+#include <deque>
 #include <memory>
-#include <vector>
-
-#include "core/curve_sheet.h"
 
 namespace gw {
 
 class AutoStationDialog;
-class CurveSaver;
 class ElevationsWindow;
 class Platform;
-class SlotElevations;
 class frmCrestCurve;
 
-struct WindowState {
+struct WindowSlot {
+    int number = 0;  // the Tag of the slot's windows
+    QPointer<frmCrestCurve> curveWindow;  // none while the slot is free
+    // Made with the slot and kept, hidden or shown, for the whole run: the curve's
+    // elevation rows and offsets are its fields.
+    std::unique_ptr<ElevationsWindow> elevationsWindow;
     bool free = true;
-    bool changed = false;
+    bool changed = false;  // edited since the curve was created, opened or saved
 };
 
 class WindowSlots {
 public:
-    WindowSlots();
+    // The elevations windows report through the platform.
+    explicit WindowSlots(Platform& platform);
     ~WindowSlots();
 
-    // The lowest free slot from 1 up, else a new one at the end; marks it in use.
-    int AllocateWindowSlot();
-    // Form_Unload of the slot's curve window.
-    void Release(int slot);
+    // AllocateWindowSlot: the lowest free slot from 1 up, else a new one at the end;
+    // in use from now on.
+    WindowSlot& AllocateWindowSlot();
     // True when some slot from 1 up is in use.
     bool AnyCurveWindowOpen() const;
 
-    int Count() const { return int(m_states.size()); }
-    WindowState& State(int slot) { return m_states.at(size_t(slot)); }
-    const WindowState& State(int slot) const { return m_states.at(size_t(slot)); }
-
-    // The slot's open curve window, or nullptr.
-    frmCrestCurve* CurveWindow(int slot) const;
-    void SetCurveWindow(int slot, frmCrestCurve* window);
-
-    // What the slot's elevations window holds; kept for the whole run.
-    ElevationTable& Elevations(int slot) { return m_elevations.at(size_t(slot)); }
-
-    // The elevations windows share one auto-stationing dialog and report through
-    // the platform; the frame hands it over once.
-    void AttachElevations(Platform& platform);
-    // The slot's elevations window, created on first use and kept; nullptr until
-    // AttachElevations.
-    ElevationsWindow* ElevationsWindowOf(int slot);
-
-    // The file commands, through which a curve window's close question saves; the
-    // frame hands them over once. nullptr until then.
-    void AttachSaver(CurveSaver& saver) { m_saver = &saver; }
-    CurveSaver* Saver() const { return m_saver; }
+    int Count() const { return int(m_slots.size()); }
+    // The slot of that number; a number out of range throws.
+    WindowSlot& operator[](int number) { return m_slots.at(size_t(number)); }
 
 private:
-    // Windows of their own rather than children of the frame, so that showing one
-    // activates it and its first row takes the focus; owned here, and gone before
-    // the links and the dialog they use.
-    Platform* m_platform = nullptr;
-    CurveSaver* m_saver = nullptr;
+    Platform& m_platform;
+    // One dialog for every elevations window, made with the first; gone after them,
+    // which are declared after it.
     std::unique_ptr<AutoStationDialog> m_autoStation;
-    std::vector<std::unique_ptr<SlotElevations>> m_links;
-    std::vector<std::unique_ptr<ElevationsWindow>> m_elevationsWindows;
-
-    std::vector<QPointer<frmCrestCurve>> m_curveWindows;
-    std::vector<ElevationTable> m_elevations;
-    std::vector<WindowState> m_states;
+    // A window keeps its slot's address: a deque does not move what it holds.
+    std::deque<WindowSlot> m_slots;
 };
 
 }  // namespace gw

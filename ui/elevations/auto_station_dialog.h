@@ -1,20 +1,21 @@
 #pragma once
 // dlgAuto: asks how to lay the elevation stations out, by a number of points
 // from PVC to PVT or by a beginning station and an increment. One dialog serves
-// every elevations window; its answer is read after it hides.
+// every elevations window; its answer is read after it hides. It has one field for
+// each row of the dialog's table.
 
 #include <QDialog>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "core/auto_stationing.h"
 
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 
 namespace gw {
 
-class LeaveChecks;
 class Platform;
 
 class AutoStationDialog : public QDialog {
@@ -33,6 +34,7 @@ public:
     void OKButton_Click();
     void CancelButton_Click();
 
+    // The field of that name; any other name throws.
     QLineEdit* Field(std::string_view name) const;
 
 protected:
@@ -41,23 +43,17 @@ protected:
 
 private:
     void BuildControls();
+    QLineEdit* ControlOf(const AutoStationField& field) const;
     void Scatter();
     void Gather();
 
     Platform& m_platform;
-    LeaveChecks* m_checks = nullptr;
     AutoStationing m_state;
     ElevationTable m_copies;
 
+    std::vector<std::pair<const AutoStationField*, QLineEdit*>> m_fields;  // in table order
     QRadioButton* m_optIncrements = nullptr;
     QRadioButton* m_optSpacing = nullptr;
-    QLineEdit* m_txtPoints = nullptr;
-    QLineEdit* m_txtBeginSTA = nullptr;
-    QLineEdit* m_txtBeginSTAM = nullptr;
-    QLineEdit* m_txtIncSTA = nullptr;
-    QLineEdit* m_txtIncSTAM = nullptr;
-    QPushButton* m_OKButton = nullptr;
-    QPushButton* m_CancelButton = nullptr;
 };
 
 }  // namespace gw

@@ -1,13 +1,15 @@
 #pragma once
 // frmTS: the modal window that lists twenty stations along a curve with their
-// elevations. Its texts are the slot's elevation table: loaded when it is shown,
-// written back after every command and when it hides.
+// elevations. It has one field for each row of the elevations window's table (twenty
+// for a column), and they hold the curve's rows and offsets while it is hidden.
 
 #include <QDialog>
-#include <array>
+#include <functional>
 #include <string_view>
+#include <vector>
 
 #include "core/curve_sheet.h"
+#include "core/elevation_fields.h"
 #include "core/refusal.h"
 
 class QLabel;
@@ -17,7 +19,6 @@ class QPushButton;
 namespace gw {
 
 class AutoStationDialog;
-class ElevationsSlot;
 class LeaveChecks;
 class Platform;
 
@@ -25,8 +26,17 @@ class ElevationsWindow : public QDialog {
     Q_OBJECT
 
 public:
-    ElevationsWindow(ElevationsSlot& slot, Platform& platform, AutoStationDialog& autoStation,
+    // `markChanged` marks the curve changed, as typing in the window and its
+    // commands do.
+    ElevationsWindow(Platform& platform, AutoStationDialog& autoStation, std::function<void()> markChanged,
                      QWidget* parent = nullptr);
+
+    // What the fields hold, and the texts a command of the curve window puts there.
+    ElevationTable Table() const;
+    void ShowTable(const ElevationTable& table);
+    // Calculate Elevations: the window shown modally over the curve it belongs to,
+    // which cannot change while it is shown.
+    void ShowFor(const CurveSheet& curve);
 
     // Form_Activate: runs every time the window is shown.
     void Form_Activate();
@@ -35,8 +45,9 @@ public:
     void cmdClear_Click();
     void cmdAutoStation_Click();
 
-    bool CalcOK() const { return m_bCalcOK; }
-    QLineEdit* Field(std::string_view name) const;  // the single fields by control name
+    // The field of its own, or a column's field in a row, of that name; any other
+    // name or row throws.
+    QLineEdit* Field(std::string_view name) const;
     QLineEdit* RowField(std::string_view name, int row) const;
 
 protected:
@@ -46,38 +57,33 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // A field of the table, in a row for a column.
+    struct Control {
+        const ElevationField* field;
+        int row;
+        QLineEdit* edit;
+    };
+
     void BuildControls();
-    QLineEdit* AddField(const char* name, int left, int top, int width);
     void WatchRowChecks();
     void SetUnitLabels(const CurveSheet& curve);
+    QLineEdit* ControlOf(const ElevationField& field, int row) const;
+    QLineEdit* FirstStation() const;
 
     // One command: the curve and these fields in, the core's result out.
     CurveSheet Gather() const;
     void Scatter(const CurveSheet& sheet);
-    void Store();
     void Report(const Outcome& outcome);
 
-    ElevationsSlot& m_slot;
     Platform& m_platform;
     AutoStationDialog& m_autoStation;
+    std::function<void()> m_markChanged;
+    CurveSheet m_curve;  // the curve's fields, as the window was shown for them
     LeaveChecks* m_checks = nullptr;
 
-    QLineEdit* m_txtPVCSTA = nullptr;
-    QLineEdit* m_txtPVCSTAM = nullptr;
-    QLineEdit* m_txtPVTSTA = nullptr;
-    QLineEdit* m_txtPVTSTAM = nullptr;
-    QLineEdit* m_txtVOffset = nullptr;
-    QLineEdit* m_txtHOffset = nullptr;
-    QLineEdit* m_txtXSlope = nullptr;
+    std::vector<Control> m_controls;  // in table order, a column row by row
     QLabel* m_lblvoffsetm = nullptr;
     QLabel* m_lblhoffsetm = nullptr;
-    std::array<QLineEdit*, kRowCount> m_txtTOTSTA1{};
-    std::array<QLineEdit*, kRowCount> m_txtTOTSTAM1{};
-    std::array<QLineEdit*, kRowCount> m_txtTotalTopSlab1{};
-    QPushButton* m_cmdClear = nullptr;
-    QPushButton* m_cmdAutoStation = nullptr;
-    QPushButton* m_cmdCalculateTOS = nullptr;
-    QPushButton* m_cmdOK = nullptr;
 
     bool m_bCalcOK = false;
 };

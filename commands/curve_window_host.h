@@ -5,6 +5,7 @@
 namespace gw {
 
 class frmCrestCurve;
+struct WindowSlot;
 
 class CurveWindowHost {
 public:
@@ -12,7 +13,7 @@ public:
     virtual frmCrestCurve* ActiveCurveWindow() const = 0;
     // Creates and shows the slot's curve window as New does: in the units the units
     // dialog holds, in the PVI mode, empty.
-    virtual frmCrestCurve* OpenCurveWindow(int slot) = 0;
+    virtual frmCrestCurve& OpenCurveWindow(WindowSlot& slot) = 0;
 };
 
 }  // namespace gw

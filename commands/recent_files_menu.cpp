@@ -1,4 +1,4 @@
-#include "recent_files_menu.h"
+#include "commands/recent_files_menu.h"
 
 #include <QAction>
 

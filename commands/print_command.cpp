@@ -1,10 +1,11 @@
-#include "curve_report.h"
+#include "commands/print_command.h"
 
 #include <QLocale>
 
 #include "core/curve_sheet.h"
 #include "core/report.h"
 #include "platform/platform.h"
+#include "platform/texts.h"
 #include "print/clock_text.h"
 #include "print/report_copies.h"
 
@@ -20,8 +21,8 @@ void PrintCurveReport(Platform& platform, QWidget* owner, const CurveSheet* shee
                                                            TimeOfDayText(locale, now.time()).toStdString());
         // Failures of the printer are skipped without a message, as printing has no
         // way to report them here.
-        if (std::unique_ptr<LinePrinter> job = platform.StartPrintJob(QStringLiteral("Gradewise"))) {
-            PrintReportCopies(*job, lines, static_cast<short>(*copies));
+        if (std::unique_ptr<LinePrinter> job = platform.StartPrintJob(AppTitle())) {
+            PrintReportCopies(*job, lines, *copies);
         }
     }
     platform.SetBusyCursor(false);

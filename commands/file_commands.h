@@ -1,7 +1,7 @@
 #pragma once
 // Open, Save and Save As of the File menu, the recent-file entries, and the writer
-// and reader between the active curve window (with its slot's elevations) and a
-// curve file. The window's title is the only record of its file's path.
+// and reader between a curve window (with its slot's elevations) and a curve file.
+// The window's title is the only record of its file's path.
 
 #include <QString>
 
@@ -32,16 +32,20 @@ public:
     // the file existed.
     bool OpenNamedFile(const QString& path);
 
-    QString ShowSaveAsDialog(const QString& initialName) override;
-    void WriteCurveFile(const QString& path, const QString& newTitle) override;
-    // Opens the file in a new window and lists it among the recent files.
-    void LoadCurveFile(const QString& path);
+    void SaveBeforeClosing(frmCrestCurve& curve) override;
 
     // Both file dialogs are set up alike; only the proposed name differs.
     static FileDialogRequest DialogRequest(const QString& fileName);
 
 private:
-    void ReportMissingFile();
+    // Save: to the path in the title, or through the Save As dialog for an untitled
+    // curve, proposing `proposedName`.
+    void Save(frmCrestCurve& curve, const QString& proposedName);
+    QString ShowSaveAsDialog(const QString& initialName);
+    // On success the curve takes `newTitle` and is unchanged.
+    void WriteCurveFile(frmCrestCurve& curve, const QString& path, const QString& newTitle);
+    // Opens the file in a new window and lists it among the recent files.
+    void LoadCurveFile(const QString& path);
     void ReportFailure(const QString& description);
 
     CurveWindowHost& m_host;
