@@ -32,8 +32,7 @@ int main(int argc, char* argv[]) {
 
     gw::QtPlatform platform;
     gw::frmMain mainWindow(platform);
-    QObject::connect(&mainWindow, &gw::frmMain::programEnded, &app, &QCoreApplication::quit,
-                     Qt::QueuedConnection);
+    QObject::connect(&mainWindow, &gw::frmMain::programEnded, &app, &QCoreApplication::quit, Qt::QueuedConnection);
     if (!mainWindow.MDIForm_Load()) return 1;
     mainWindow.OpenFiles(files);
 

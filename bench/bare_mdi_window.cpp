@@ -14,7 +14,8 @@ int main(int argc, char* argv[]) {
     QApplication app(argc, argv);
     QMainWindow window;
     window.setCentralWidget(new QMdiArea(&window));
-    if (argc > 1 && std::strcmp(argv[1], "--menu") == 0) window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Open"));
+    if (argc > 1 && std::strcmp(argv[1], "--menu") == 0)
+        window.menuBar()->addMenu(QStringLiteral("&File"))->addAction(QStringLiteral("&Open"));
     window.resize(1000, 700);
     window.show();
     if (qEnvironmentVariableIsSet("GRADEWISE_QUIT_WHEN_IDLE")) QTimer::singleShot(0, &app, &QCoreApplication::quit);

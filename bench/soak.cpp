@@ -103,9 +103,10 @@ int main(int argc, char** argv) {
     const gw::CurveSheet saved = gw::ParseCurveFile(last.readAll().toStdString());
     const bool worked = saved.elevations.rows[9].txtTotalTopSlab1 == "100.0" && !saved.txtSD.empty();
     const long growth = StatusKiB("VmHWM:") - peakAfterFirstHundred;
-    std::printf("\npeak growth after the first hundred rounds: %ld KiB; unexpected boxes or dialogs: %d; "
-                "windows left open: %lld\n",
-                growth, unexpected, static_cast<long long>(main.MdiArea().subWindowList().size()));
+    std::printf(
+        "\npeak growth after the first hundred rounds: %ld KiB; unexpected boxes or dialogs: %d; "
+        "windows left open: %lld\n",
+        growth, unexpected, static_cast<long long>(main.MdiArea().subWindowList().size()));
     if (!worked) {
         std::printf("the saved curves are not what the rounds should have made: SD '%s', row 9 '%s'\n",
                     saved.txtSD.c_str(), saved.elevations.rows[9].txtTotalTopSlab1.c_str());

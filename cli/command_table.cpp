@@ -1,4 +1,4 @@
-#include "command_table.h"
+#include "cli/command_table.h"
 
 #include <algorithm>
 
@@ -22,7 +22,9 @@ constexpr const char* kProfileFiles =
 
 std::vector<CommandRow> Rows() {
     return {
-        {"solve", "solve FILE [--elevations] [--json] [-o OUT]", kCurveFile,
+        {"solve",
+         "solve FILE [--elevations] [--json] [-o OUT]",
+         kCurveFile,
          "solve the curve; --elevations also recomputes the elevation rows",
          "Solves the curve in FILE in the mode it was saved in, exactly as the Calc button\n"
          "does, and writes it as the desktop program saves it, or as one JSON object that\n"
@@ -32,7 +34,8 @@ std::vector<CommandRow> Rows() {
          "arguments, an unreadable file or an output that could not be written; 3 an\n"
          "elevation station lies outside the curve (the curve as far as it was computed\n"
          "is still written).",
-         "-o", RunSolve},
+         "-o",
+         RunSolve},
         {"autostation",
          "autostation FILE (--points N | --begin WHOLE+PLUS --increment WHOLE+PLUS)\n"
          "            [--json] [-o OUT]",
@@ -51,8 +54,11 @@ std::vector<CommandRow> Rows() {
           kOutput},
          "Exit status: 0 done; 1 Calc or the dialog refused (the message on stderr); 2 bad\n"
          "arguments, an unreadable file or an output that could not be written.",
-         "-o", RunAutostation},
-        {"report", "report FILE [--pdf OUT.pdf [--copies N]]", kCurveFile,
+         "-o",
+         RunAutostation},
+        {"report",
+         "report FILE [--pdf OUT.pdf [--copies N]]",
+         kCurveFile,
          "print the lines of the curve report; with --pdf, write the\n"
          "printed pages (N copies, one page each, default 1) to a PDF file",
          "Prints the lines of the curve report of FILE, dated now, or writes the pages\n"
@@ -61,22 +67,28 @@ std::vector<CommandRow> Rows() {
           {"--copies", "N", "that many copies, from 1 to 99, one page each (default 1)"}},
          "Exit status: 0 done; 2 bad arguments, an unreadable file or a PDF that could not\n"
          "be written (an existing one is then left as it was).",
-         nullptr, RunReport},
-        {"profile", "profile FILE [--json] [--profile NAME] [-o OUT]", kAnyFile,
+         nullptr,
+         RunReport},
+        {"profile",
+         "profile FILE [--json] [--profile NAME] [-o OUT]",
+         kAnyFile,
          "list every PVI with its curve: G1, G2, A, L, K, PVC, PVT, crest or\n"
          "sag, high or low point; grade breaks without a curve flagged",
          "Lists the profile in FILE: every PVI with its station and elevation, and per\n"
          "curve G1, G2, A, L (L1 and L2 for an unsymmetrical curve), K = L / A, PVC and\n"
          "PVT with their elevations, crest or sag, the middle ordinate and the high or low\n"
          "point (or none on the curve). A PVI between the ends without a curve is flagged\n"
-         "as a grade break. design --pvi and import --curve take the numbers listed here.\n\n"
-             + std::string(kProfileFiles),
+         "as a grade break. design --pvi and import --curve take the numbers listed here.\n\n" +
+             std::string(kProfileFiles),
          {kJson, kProfileName, kOutput},
          "Exit status: 0 done; 1 the file's content is refused (the message names its line\n"
          "or element); 2 bad arguments, an unreadable file or an output that could not be\n"
          "written.",
-         "-o", RunProfileListing},
-        {"table", "table FILE --every WHOLE+PLUS [--csv] [--profile NAME] [-o OUT]", kAnyFile,
+         "-o",
+         RunProfileListing},
+        {"table",
+         "table FILE --every WHOLE+PLUS [--csv] [--profile NAME] [-o OUT]",
+         kAnyFile,
          "elevation and grade at every even station of an interval, with\n"
          "every PVC, PVI, PVT and high or low point among the rows",
          "Tabulates the profile in FILE from its beginning to its end at every even\n"
@@ -87,8 +99,8 @@ std::vector<CommandRow> Rows() {
          "A curve file is tabulated from PVC to PVT as the elevations window computes it:\n"
          "station, distance from the PVC, grade, elevation with the file's vertical offset\n"
          "and horizontal offset times cross slope (said in a line above), and PVC, TP or\n"
-         "PVT.\n\n"
-             + std::string(kProfileFiles),
+         "PVT.\n\n" +
+             std::string(kProfileFiles),
          {{"--every", "WHOLE+PLUS", "the interval, for example 0+25", true, "0+50"},
           {"--csv", nullptr, "comma-separated values with a header row"},
           kProfileName,
@@ -97,21 +109,25 @@ std::vector<CommandRow> Rows() {
          "computed (the message on stderr); 2 bad arguments (an interval giving more than\n"
          "1000000 rows among them), an unreadable file or an output that could not be\n"
          "written.",
-         "-o", RunTable},
-        {"plot", "plot FILE [--profile NAME] [-o OUT.svg]", kAnyFile,
+         "-o",
+         RunTable},
+        {"plot",
+         "plot FILE [--profile NAME] [-o OUT.svg]",
+         kAnyFile,
          "draw the profile as SVG with every point labelled",
          "Draws the profile in FILE as SVG: tangents and curves to scale with the vertical\n"
          "exaggeration stated, the tangents produced to each PVI dashed, and every PVC,\n"
          "PVI, PVT and high or low point marked and labelled with station and elevation.\n\n"
          "A curve file is drawn as one curve: PVC, PVI, PVT and turning point labelled,\n"
-         "its elevation rows as points (offsets included), grades and length annotated.\n\n"
-             + std::string(kProfileFiles),
+         "its elevation rows as points (offsets included), grades and length annotated.\n\n" +
+             std::string(kProfileFiles),
          {kProfileName, {"-o", "OUT.svg", "write to OUT.svg instead of standard output"}},
          "Exit status: 0 done; 1 the file's content is refused or cannot be drawn to scale\n"
          "(the message on stderr); 2 bad arguments, an unreadable file or an output that\n"
          "could not be written; 3 an elevation row of a curve file lies outside the curve\n"
          "(it is drawn without that row and the rows after it).",
-         "-o", RunPlot},
+         "-o",
+         RunPlot},
         {"check",
          "check FILE --speed V [--passing] [--clearance C] [--eye H]\n"
          "      [--object H] [--oncoming H] [--headlight H] [--truck-eye H]\n"
@@ -138,8 +154,8 @@ std::vector<CommandRow> Rows() {
          "The longest minimum required governs; the passing sight distance is required\n"
          "only with --passing. Each curve also gets its drainage flat zone (the grade\n"
          "within 0.30 %, flagged on curbed roads above K 167, metric 51) and the highest\n"
-         "design speed it supports. The last line is the verdict.\n\n"
-             + std::string(kProfileFiles),
+         "design speed it supports. The last line is the verdict.\n\n" +
+             std::string(kProfileFiles),
          {{"--speed", "V", "the design speed", true, "50"},
           {"--passing", nullptr, "crests must also give the passing sight distance"},
           {"--clearance", "C", "sags pass under a structure with this vertical clearance"},
@@ -155,7 +171,8 @@ std::vector<CommandRow> Rows() {
          "says which); 1 the file's content is refused (the message on stderr); 2 bad\n"
          "arguments, a speed outside the table, an unreadable file or an output that\n"
          "could not be written.",
-         "-o", RunCheck},
+         "-o",
+         RunCheck},
         {"design",
          "design FILE --pvi N (--k K | --through STA ELEV [--voffset V]\n"
          "       [--hoffset H --xslope X] | --under STA --underside U --clearance C)\n"
@@ -174,8 +191,8 @@ std::vector<CommandRow> Rows() {
          "                 a sag at most, a crest at least the length through that point\n\n"
          "A point on the finished surface is brought down to the profile by the vertical\n"
          "offset and the horizontal offset times the cross slope (percent), as the\n"
-         "elevations window adds them. Stations are WHOLE+PLUS.\n\n"
-             + std::string(kProfileFiles),
+         "elevations window adds them. Stations are WHOLE+PLUS.\n\n" +
+             std::string(kProfileFiles),
          {{"--pvi", "N", "the PVI, as the profile command numbers it", true, "2"},
           {"--k", "K", "the rate of vertical curvature"},
           {"--through", "STA ELEV", "a point the curve passes through"},
@@ -191,25 +208,31 @@ std::vector<CommandRow> Rows() {
          "not fit between the neighbouring curves (the working says why); 1 the file's\n"
          "content is refused (the message on stderr); 2 bad arguments, a PVI at an end, an\n"
          "unreadable file or an output that could not be written.",
-         "-o", RunDesign},
-        {"export", "export FILE --landxml OUT.xml [--profile NAME]", kAnyFile,
+         "-o",
+         RunDesign},
+        {"export",
+         "export FILE --landxml OUT.xml [--profile NAME]",
+         kAnyFile,
          "write the profile as LandXML 1.2",
          "Writes the profile in FILE as LandXML 1.2, valid against its schema: dated now,\n"
          "with every unit attribute the schema requires and the elevation unit stated. A\n"
          "curve file's mode, elevation rows and offsets travel in a Feature named\n"
-         "gradewise-curve-file, so import gives the same curve file back.\n\n"
-             + std::string(kProfileFiles),
+         "gradewise-curve-file, so import gives the same curve file back.\n\n" +
+             std::string(kProfileFiles),
          {{"--landxml", "OUT.xml", "the file to write", true, "profile.xml"}, kProfileName},
          "Exit status: 0 done; 1 the file's content is refused (the message on stderr); 2\n"
          "bad arguments, an unreadable file or an output that could not be written.",
-         "--landxml", RunExport},
-        {"import", "import FILE --curve N [--profile NAME] [-o CURVE.gwf]", kAnyFile,
+         "--landxml",
+         RunExport},
+        {"import",
+         "import FILE --curve N [--profile NAME] [-o CURVE.gwf]",
+         kAnyFile,
          "write the curve at one PVI as a solved curve file",
          "Writes the symmetric curve at PVI N of the profile in FILE as a curve file the\n"
          "desktop program opens, solved as Calc solves it, with the elevation rows and\n"
          "offsets it carried out of Gradewise (see export) computed as Calculate TOS\n"
-         "computes them.\n\n"
-             + std::string(kProfileFiles),
+         "computes them.\n\n" +
+             std::string(kProfileFiles),
          {{"--curve", "N", "the PVI whose curve to write, as the profile command numbers it", true, "2"},
           kProfileName,
           {"-o", "CURVE.gwf", "write to CURVE.gwf instead of standard output"}},
@@ -217,7 +240,8 @@ std::vector<CommandRow> Rows() {
          "unsymmetrical; 2 bad arguments, no curve at that PVI, an unreadable file or an\n"
          "output that could not be written; 3 an elevation row lies outside the curve (the\n"
          "curve as far as it was computed is still written).",
-         "-o", RunImport},
+         "-o",
+         RunImport},
     };
 }
 
@@ -260,7 +284,8 @@ std::string GeneralHelp() {
         "a curve file) is a chain of PVIs with a vertical curve at any PVI between its ends.\n\n";
     for (const CommandRow& c : Commands()) {
         const std::string name = c.name;
-        text += "  " + name + std::string(name.size() < 13 ? 13 - name.size() : 1, ' ') + Indented(c.summary, 15) + "\n";
+        text +=
+            "  " + name + std::string(name.size() < 13 ? 13 - name.size() : 1, ' ') + Indented(c.summary, 15) + "\n";
     }
     text +=
         "  COMMAND --help tells more about each command\n\n"

@@ -1,4 +1,4 @@
-#include "curve_commands.h"
+#include "cli/curve_commands.h"
 
 #include "cli/arguments.h"
 #include "cli/cli.h"
@@ -118,4 +118,3 @@ int RunReport(const Arguments& a, std::ostream& out, std::ostream& err) {
 }
 
 }  // namespace gw::cli
-

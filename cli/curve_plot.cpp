@@ -1,4 +1,4 @@
-#include "curve_plot.h"
+#include "cli/curve_plot.h"
 
 #include <algorithm>
 #include <cmath>
@@ -200,7 +200,8 @@ void CurveDrawing::Points() {
     const std::string open = std::string("fill=\"#ffffff\" stroke=\"") + kInk + "\" stroke-width=\"2\"";
     m_svg.Circle(X(m_curve.pvc), Y(m_curve.pvcElevation), 5, open);
     m_svg.Circle(X(m_curve.pvt()), Y(m_pvtElevation), 5, open);
-    m_svg.Circle(X(m_curve.pvi()), Y(m_curve.pviElevation()), 4.5, R"(fill="#ffffff" stroke="#555555" stroke-width="1.5")");
+    m_svg.Circle(X(m_curve.pvi()), Y(m_curve.pviElevation()), 4.5,
+                 R"(fill="#ffffff" stroke="#555555" stroke-width="1.5")");
     Obstacle(X(m_curve.pvc), Y(m_curve.pvcElevation), 7);
     Obstacle(X(m_curve.pvt()), Y(m_pvtElevation), 7);
     Obstacle(X(m_curve.pvi()), Y(m_curve.pviElevation()), 6);
@@ -237,8 +238,8 @@ std::optional<Box> CurveDrawing::Place(const Label& label) {
     const double x = label.align == Align::Start ? box.x0 : label.align == Align::End ? box.x1 : (box.x0 + box.x1) / 2;
     const char* anchor = label.align == Align::Start ? "start" : label.align == Align::End ? "end" : "middle";
     for (size_t i = 0; i < label.lines.size(); ++i) {
-        const std::string style = std::string("font-size=\"12\" fill=\"") + kInk + "\" text-anchor=\"" + anchor +
-                                  "\"" + (i == 0 ? " font-weight=\"bold\"" : "");
+        const std::string style = std::string("font-size=\"12\" fill=\"") + kInk + "\" text-anchor=\"" + anchor + "\"" +
+                                  (i == 0 ? " font-weight=\"bold\"" : "");
         m_svg.Text(x, box.y0 + kLineHeight * (i + 1) - 3, label.lines[i], style);
     }
     m_taken.push_back({box.x0 - 3, box.y0 - 3, box.x1 + 3, box.y1 + 3});
@@ -250,7 +251,10 @@ void CurveDrawing::Labels() {
     const auto elevation = [](const std::string& field) { return "El. " + FormatNumber(ReadNumber(field)); };
     const double in = -Out();
     m_pviLabel = *Place({{"PVI " + StationText(m_curve.pvi(), metric), elevation(m_sheet.txtPVIEval)},
-                         X(m_curve.pvi()), Y(m_curve.pviElevation()), Align::Middle, Out()});
+                         X(m_curve.pvi()),
+                         Y(m_curve.pviElevation()),
+                         Align::Middle,
+                         Out()});
 
     std::string pvcName = "PVC", pvtName = "PVT";
     const auto tp = m_curve.TurningPoint();
@@ -259,13 +263,22 @@ void CurveDrawing::Labels() {
     const bool tpAtPvc = tp && *tp == 0, tpAtPvt = tp && *tp == m_curve.length;
     if (tpAtPvc) pvcName += " = " + tpName;
     if (tpAtPvt) pvtName += " = " + tpName;
-    Place({{pvcName + " " + StationText(m_curve.pvc, metric), elevation(m_sheet.txtPVCEval)}, X(m_curve.pvc),
-           Y(m_curve.pvcElevation), Align::Start, in});
-    Place({{pvtName + " " + StationText(m_curve.pvt(), metric), elevation(m_sheet.txtPVTEval)}, X(m_curve.pvt()),
-           Y(m_pvtElevation), Align::End, in});
+    Place({{pvcName + " " + StationText(m_curve.pvc, metric), elevation(m_sheet.txtPVCEval)},
+           X(m_curve.pvc),
+           Y(m_curve.pvcElevation),
+           Align::Start,
+           in});
+    Place({{pvtName + " " + StationText(m_curve.pvt(), metric), elevation(m_sheet.txtPVTEval)},
+           X(m_curve.pvt()),
+           Y(m_pvtElevation),
+           Align::End,
+           in});
     if (tp && !tpAtPvc && !tpAtPvt) {
         Place({{tpName + " " + StationText(m_curve.pvc + *tp, metric), "El. " + FormatNumber(m_curve.ElevationAt(*tp))},
-               X(m_curve.pvc + *tp), Y(m_curve.ElevationAt(*tp)), Align::Middle, in});
+               X(m_curve.pvc + *tp),
+               Y(m_curve.ElevationAt(*tp)),
+               Align::Middle,
+               in});
     }
 }
 
@@ -287,7 +300,8 @@ void CurveDrawing::GradeNotes() {
     struct Tangent {
         double s0, s1, grade;
     };
-    for (const Tangent& t : {Tangent{m_stationMin, m_curve.pvc, m_curve.g1}, Tangent{m_curve.pvt(), m_stationMax, m_curve.g2}}) {
+    for (const Tangent& t :
+         {Tangent{m_stationMin, m_curve.pvc, m_curve.g1}, Tangent{m_curve.pvt(), m_stationMax, m_curve.g2}}) {
         const double xa = X(t.s0), ya = Y(Road(t.s0)), xb = X(t.s1), yb = Y(Road(t.s1));
         const double length = std::hypot(xb - xa, yb - ya);
         if (length < 50) continue;
@@ -305,7 +319,7 @@ void CurveDrawing::GradeNotes() {
 void CurveDrawing::Headings(std::string_view title) {
     m_svg.Text(kLeft, 30, std::string(title), R"(font-size="17" font-weight="bold" fill="#111111")");
     const SightDistance sight = m_curve.Sight();
-    const char* kind = m_curve.isCrest()        ? "Crest vertical curve"
+    const char* kind = m_curve.isCrest()         ? "Crest vertical curve"
                        : m_curve.g2 > m_curve.g1 ? "Sag vertical curve"
                                                  : "No change of grade";
     std::string facts = std::string(kind) + "  \u00b7  L = " + FormatNumber(m_curve.length) + " " + Unit() +

@@ -1,4 +1,4 @@
-#include "curve_views.h"
+#include "cli/curve_views.h"
 
 #include <vector>
 
@@ -70,7 +70,8 @@ int CurvePlot(CurveSheet& sheet, const std::string& title, std::ostream& out, st
     for (int i = 0; i < computed; ++i) {
         const ElevationRow& row = sheet.elevations.rows[i];
         if (row.txtTotalTopSlab1.empty()) continue;
-        points.push_back({ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1), ReadNumber(row.txtTotalTopSlab1)});
+        points.push_back(
+            {ReadNumber(row.txtTOTSTA1) * K + ReadNumber(row.txtTOTSTAM1), ReadNumber(row.txtTotalTopSlab1)});
     }
     const SvgDrawing drawing = CurvePlotSvg(sheet, points, title);
     if (!drawing.refused.empty()) {

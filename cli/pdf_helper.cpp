@@ -1,4 +1,4 @@
-#include "pdf_helper.h"
+#include "cli/pdf_helper.h"
 
 #include <cerrno>
 #include <cstdlib>

@@ -20,7 +20,7 @@ int main(int argc, char** argv) {
         std::cerr << "gradewise-cli: cannot read '" << argv[1] << "': " << error << "\n";
         return 2;
     }
-    const gw::CurveSheet sheet = gw::LoadStoredCurve(gw::ParseCurveFile(bytes), "Metric");
+    const gw::CurveSheet sheet = gw::LoadStoredCurve(gw::ParseCurveFile(bytes), gw::kMetric);
     if (!gw::cli::WriteReportPdf(sheet, argv[2], std::stoi(argv[3]), error)) {
         std::cerr << "gradewise-cli: cannot write '" << argv[2] << "': " << error << "\n";
         return 2;

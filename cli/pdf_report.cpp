@@ -1,4 +1,4 @@
-#include "pdf_report.h"
+#include "cli/pdf_report.h"
 
 #include <QBuffer>
 #include <QDateTime>
@@ -53,9 +53,8 @@ bool WriteReportPdf(const CurveSheet& sheet, const std::string& path, int copies
         writer.setPageMargins(QMarginsF(18, 18, 18, 18), QPageLayout::Millimeter);
         const QDateTime now = QDateTime::currentDateTime();
         const QLocale locale = QLocale::system();
-        const std::vector<std::string> lines =
-            ReportLines(sheet, ShortDateText(locale, now.date()).toStdString(),
-                        TimeOfDayText(locale, now.time()).toStdString());
+        const std::vector<std::string> lines = ReportLines(sheet, ShortDateText(locale, now.date()).toStdString(),
+                                                           TimeOfDayText(locale, now.time()).toStdString());
         PagePrinter printer(writer);
         if (!PrintReportCopies(printer, lines, copies)) {
             error = "the PDF could not be made";

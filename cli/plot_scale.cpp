@@ -1,4 +1,4 @@
-#include "plot_scale.h"
+#include "cli/plot_scale.h"
 
 #include <cmath>
 

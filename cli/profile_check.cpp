@@ -1,4 +1,4 @@
-#include "profile_check.h"
+#include "cli/profile_check.h"
 
 #include <algorithm>
 #include <array>
@@ -77,8 +77,7 @@ int ProfileCheckReport(const ProfileDocument& document, const Profile& profile, 
     const DesignSpeedRow row = *DesignStoppingSightDistance(s.speed, metric);
     out << "Check of " << ToUtf8(document.name) << " at " << ShortNumber(s.speed) << speedUnit;
     if (row.speed != s.speed) out << " (taken as " << ShortNumber(row.speed) << speedUnit << ")";
-    out << ": stopping sight distance " << ShortNumber(row.sightDistance) << unit
-        << " (AASHTO 2018, level roadway)\n";
+    out << ": stopping sight distance " << ShortNumber(row.sightDistance) << unit << " (AASHTO 2018, level roadway)\n";
 
     std::vector<std::string> tooShort;
     const auto& pvis = profile.pvis();

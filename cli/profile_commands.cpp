@@ -1,4 +1,4 @@
-#include "profile_commands.h"
+#include "cli/profile_commands.h"
 
 #include "cli/arguments.h"
 #include "cli/cli.h"
@@ -107,8 +107,8 @@ int RunPlot(const Arguments& a, std::ostream& out, std::ostream& err) {
 
 int RunCheck(const Arguments& a, std::ostream& out, std::ostream& err) {
     CheckSettings settings;
-    settings.speed = *a.Number("--speed", "a design speed greater than 0 (mph for a profile in feet, km/h in metres)",
-                               Positive);
+    settings.speed =
+        *a.Number("--speed", "a design speed greater than 0 (mph for a profile in feet, km/h in metres)", Positive);
     settings.passing = a.Has("--passing");
     settings.clearance = a.Number("--clearance", "a vertical clearance greater than 0", Positive);
     SightHeights& h = settings.heights;
@@ -132,8 +132,9 @@ int RunCheck(const Arguments& a, std::ostream& out, std::ostream& err) {
 
 int RunDesign(const Arguments& a, std::ostream& out, std::ostream& err) {
     if (a.Has("--k") + a.Has("--through") + a.Has("--under") != 1) {
-        throw UsageError{"design takes one of --k K, --through STA ELEV, or --under STA with --underside U and "
-                         "--clearance C"};
+        throw UsageError{
+            "design takes one of --k K, --through STA ELEV, or --under STA with --underside U and "
+            "--clearance C"};
     }
     for (const char* offset : {"--voffset", "--hoffset", "--xslope"}) a.Needs(offset, "--through");
     a.Needs("--hoffset", "--xslope");
@@ -160,7 +161,8 @@ int RunDesign(const Arguments& a, std::ostream& out, std::ostream& err) {
         request.through = DesignRequest::Point{*a.Station("--through", metric), *through, vertical.value_or(0),
                                                horizontal.value_or(0), slope.value_or(0)};
     }
-    if (a.Has("--under")) request.structure = DesignRequest::Structure{*a.Station("--under", metric), *underside, *clearance};
+    if (a.Has("--under"))
+        request.structure = DesignRequest::Structure{*a.Station("--under", metric), *underside, *clearance};
     // A curve file's tangents run on past its PVC and PVT.
     request.openEnds = file.kind == InputKind::CurveFile;
     return ProfileDesignReport(s.document, *s.profile, request, out, err);
@@ -175,8 +177,9 @@ int RunExport(const Arguments& a, std::ostream& out, std::ostream& err) {
 }
 
 int RunImport(const Arguments& a, std::ostream& out, std::ostream& err) {
-    const size_t curve = *a.Ordinal("--curve", "the number of the PVI whose curve to take, as the profile command "
-                                               "lists it, for example 2");
+    const size_t curve = *a.Ordinal("--curve",
+                                    "the number of the PVI whose curve to take, as the profile command "
+                                    "lists it, for example 2");
     InputFile file;
     ProfileSource s;
     if (int status = Load(a, file, s, err)) return status;

@@ -1,4 +1,4 @@
-#include "profile_csv.h"
+#include "cli/profile_csv.h"
 
 #include <algorithm>
 #include <array>
@@ -13,8 +13,8 @@ namespace gw::cli {
 namespace {
 
 enum Column { kStation, kElevation, kLength, kK, kLengthIn, kLengthOut, kColumnCount };
-constexpr std::array<const char*, kColumnCount> kColumnNames = {"Station",  "Elevation", "Length",
-                                                                "K",        "Length in", "Length out"};
+constexpr std::array<const char*, kColumnCount> kColumnNames = {"Station", "Elevation", "Length",
+                                                                "K",       "Length in", "Length out"};
 
 std::string Trim(std::string_view s) {
     size_t b = 0, e = s.size();
@@ -135,8 +135,9 @@ bool CsvReader::Row(const std::vector<std::string>& cells, PviInput& pvi) {
     pvi.elevation = *elevation;
     const int given = (length ? 1 : 0) + (k ? 1 : 0) + (lengthIn || lengthOut ? 1 : 0);
     if (given > 1) {
-        return Fail(At("the row") + " gives its curve more than one way; give a Length, a K, or a Length in with "
-                                    "a Length out.");
+        return Fail(At("the row") +
+                    " gives its curve more than one way; give a Length, a K, or a Length in with "
+                    "a Length out.");
     }
     if ((lengthIn != std::nullopt) != (lengthOut != std::nullopt)) {
         return Fail(At(lengthIn ? "Length out" : "Length in") + ": an unsymmetrical curve needs both lengths.");

@@ -1,4 +1,4 @@
-#include "profile_design.h"
+#include "cli/profile_design.h"
 
 #include <charconv>
 #include <cmath>
@@ -49,8 +49,8 @@ void Roots(const ControlPointDesign& d, const std::string& unit, bool metric, do
 }
 
 // Whether the profile takes a curve of this length at the PVI: 0, or 5 with the
-// refusal: a length that cannot be built is no solution. With open ends, a first or last PVI in the curve's way moves out along its
-// tangent, as the tangents of a single curve run on.
+// refusal: a length that cannot be built is no solution. With open ends, a first or last PVI in the curve's way moves
+// out along its tangent, as the tangents of a single curve run on.
 int Fits(const ProfileDocument& document, size_t index, double length, bool openEnds, std::ostream& out) {
     ProfileInput input = document.input;
     PviInput& pvi = input.pvis[index];
@@ -87,8 +87,8 @@ int ProfileDesignReport(const ProfileDocument& document, const Profile& profile,
                         std::ostream& out, std::ostream& err) {
     const auto& pvis = profile.pvis();
     if (request.pvi < 2 || request.pvi + 1 > pvis.size()) {
-        err << "gradewise-cli: a curve goes at a PVI between the ends of the profile: PVI 2 to PVI "
-            << pvis.size() - 1 << "\n";
+        err << "gradewise-cli: a curve goes at a PVI between the ends of the profile: PVI 2 to PVI " << pvis.size() - 1
+            << "\n";
         return kUsage;
     }
     const size_t i = request.pvi - 1;

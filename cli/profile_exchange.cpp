@@ -1,4 +1,4 @@
-#include "profile_exchange.h"
+#include "cli/profile_exchange.h"
 
 #include <ctime>
 

@@ -1,4 +1,4 @@
-#include "profile_landxml.h"
+#include "cli/profile_landxml.h"
 
 #include <pugixml.hpp>
 
@@ -38,7 +38,8 @@ public:
 
     // Every PVI is named by its line, so this is a search, not a count.
     int Line(ptrdiff_t offset) const {
-        return 1 + static_cast<int>(std::lower_bound(m_lineEnds.begin(), m_lineEnds.end(), offset) - m_lineEnds.begin());
+        return 1 +
+               static_cast<int>(std::lower_bound(m_lineEnds.begin(), m_lineEnds.end(), offset) - m_lineEnds.begin());
     }
     std::string Where(const pugi::xml_node& node) const {
         return std::string(LocalName(node)) + " on line " + std::to_string(Line(node.offset_debug()));
@@ -58,7 +59,7 @@ private:
     bool Extras(const pugi::xml_node& feature, ProfileDocument& doc);
 
     std::string_view m_bytes;
-    std::vector<ptrdiff_t> m_lineEnds;  // offsets of the line feeds
+    std::vector<ptrdiff_t> m_lineEnds;         // offsets of the line feeds
     std::map<size_t, std::string> m_extrasAt;  // where the extras of each PVI were read
     std::string m_error;
 };
@@ -124,7 +125,8 @@ bool Reader::FindProfAlign(const pugi::xml_node& root, const std::optional<std::
         if (LocalName(n) != "Alignment") continue;
         for (pugi::xml_node child : n.children()) {
             if (LocalName(child) == "StaEquation") {
-                return Fail(Where(child) + ": station equations are not supported; the profile's stations would be "
+                return Fail(Where(child) +
+                            ": station equations are not supported; the profile's stations would be "
                             "read wrongly past it.");
             }
         }
@@ -235,8 +237,9 @@ LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
             curve.kind = CurveInput::Kind::Unsymmetrical;
             ok = Number(n, "lengthIn", curve.lengthIn) && Number(n, "lengthOut", curve.lengthOut) && Point(n, pvi);
         } else if (kind == "CircCurve") {
-            out.error = Where(n) + ": circular vertical curves are not supported; Gradewise works with parabolic "
-                                   "curves (ParaCurve, UnsymParaCurve).";
+            out.error = Where(n) +
+                        ": circular vertical curves are not supported; Gradewise works with parabolic "
+                        "curves (ParaCurve, UnsymParaCurve).";
             return out;
         } else {
             if (kind == "Feature" && std::string(n.attribute("name").value()) == kExtrasFeature && !Extras(n, doc)) {
@@ -255,8 +258,8 @@ LandXmlRead Reader::Read(const std::optional<std::string>& profileName) {
     }
     for (const auto& [index, where] : m_extrasAt) {
         if (index >= doc.input.pvis.size()) {
-            out.error = where + ": its pvi " + std::to_string(index + 1) + " is past the last PVI of the profile, PVI " +
-                        std::to_string(doc.input.pvis.size()) + ".";
+            out.error = where + ": its pvi " + std::to_string(index + 1) +
+                        " is past the last PVI of the profile, PVI " + std::to_string(doc.input.pvis.size()) + ".";
             return out;
         }
     }
@@ -317,23 +320,29 @@ std::string LandXmlText(const ProfileDocument& document, const Profile& profile,
     // would otherwise be the metre.
     pugi::xml_node units = root.append_child("Units").append_child(profile.metric() ? "Metric" : "Imperial");
     if (profile.metric()) {
-        for (auto [name, value] : {std::pair{"areaUnit", "squareMeter"}, {"linearUnit", "meter"},
-                                   {"volumeUnit", "cubicMeter"}, {"temperatureUnit", "celsius"},
-                                   {"pressureUnit", "milliBars"}, {"elevationUnit", "meter"}}) {
+        for (auto [name, value] : {std::pair{"areaUnit", "squareMeter"},
+                                   {"linearUnit", "meter"},
+                                   {"volumeUnit", "cubicMeter"},
+                                   {"temperatureUnit", "celsius"},
+                                   {"pressureUnit", "milliBars"},
+                                   {"elevationUnit", "meter"}}) {
             Attribute(units, name, value);
         }
     } else {
-        for (auto [name, value] : {std::pair{"areaUnit", "squareFoot"}, {"linearUnit", "foot"},
-                                   {"volumeUnit", "cubicYard"}, {"temperatureUnit", "fahrenheit"},
-                                   {"pressureUnit", "inHG"}, {"elevationUnit", "feet"}}) {
+        for (auto [name, value] : {std::pair{"areaUnit", "squareFoot"},
+                                   {"linearUnit", "foot"},
+                                   {"volumeUnit", "cubicYard"},
+                                   {"temperatureUnit", "fahrenheit"},
+                                   {"pressureUnit", "inHG"},
+                                   {"elevationUnit", "feet"}}) {
             Attribute(units, name, value);
         }
     }
     pugi::xml_node application = root.append_child("Application");
     Attribute(application, "name", "Gradewise");
-    Attribute(application, "version",
-              GW_LANDXML_STR(GW_VERSION_MAJOR) "." GW_LANDXML_STR(GW_VERSION_MINOR) "." GW_LANDXML_STR(
-                  GW_VERSION_REVISION));
+    Attribute(
+        application, "version",
+        GW_LANDXML_STR(GW_VERSION_MAJOR) "." GW_LANDXML_STR(GW_VERSION_MINOR) "." GW_LANDXML_STR(GW_VERSION_REVISION));
 
     const std::string name = ToUtf8(document.name.empty() ? "Profile" : document.name);
     pugi::xml_node alignment = root.append_child("Alignments").append_child("Alignment");

@@ -1,4 +1,4 @@
-#include "profile_listing.h"
+#include "cli/profile_listing.h"
 
 #include <cmath>
 
@@ -57,8 +57,13 @@ void CurveJson(JsonWriter& j, const VerticalCurve& c, bool metric) {
     j.String(c.g1() == c.g2() ? "none" : c.isCrest() ? "crest" : "sag");
     j.Key("symmetric");
     j.Bool(c.symmetric());
-    for (auto [key, value] : {std::pair{"g1", c.g1()}, {"g2", c.g2()}, {"A", c.gradeChange()}, {"L", c.length()},
-                              {"L1", c.lengthIn()}, {"L2", c.lengthOut()}, {"middleOrdinate", c.MiddleOrdinate()}}) {
+    for (auto [key, value] : {std::pair{"g1", c.g1()},
+                              {"g2", c.g2()},
+                              {"A", c.gradeChange()},
+                              {"L", c.length()},
+                              {"L1", c.lengthIn()},
+                              {"L2", c.lengthOut()},
+                              {"middleOrdinate", c.MiddleOrdinate()}}) {
         j.Key(key);
         j.Number(FormatNumber(value));
     }
@@ -119,7 +124,7 @@ std::string ProfileListingJson(const ProfileDocument& document, const Profile& p
     j.Key("name");
     j.String(document.name);
     j.Key("units");
-    j.String(metric ? "Metric" : "English");
+    j.String(UnitSystemName(metric));
     j.Key("pvis");
     j.BeginArray();
     const auto& pvis = p.pvis();

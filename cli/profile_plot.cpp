@@ -1,4 +1,4 @@
-#include "profile_plot.h"
+#include "cli/profile_plot.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,9 +14,9 @@
 namespace gw::cli {
 namespace {
 
-constexpr double kLabelPitch = 15;   // px between neighbouring labels
+constexpr double kLabelPitch = 15;  // px between neighbouring labels
 constexpr double kLeft = 92, kRightMargin = 40;
-constexpr double kLabelBottom = 320;  // labels stand on this line, reading upwards
+constexpr double kLabelBottom = 320;         // labels stand on this line, reading upwards
 constexpr double kTop = 345, kBottom = 655;  // the plot area
 
 // Far more grid lines than the drawing can show: reaching it means the numbers are
@@ -117,7 +117,8 @@ std::string Drawing::Scale() {
                FormatNumber(m_p.end() - m_p.begin()) + " cannot be drawn to scale";
     }
     if (!drawable(*m_elevationTicks)) {
-        return "at elevations near " + FormatNumber(m_low) + " the rise and fall of this profile cannot be drawn to scale";
+        return "at elevations near " + FormatNumber(m_low) +
+               " the rise and fall of this profile cannot be drawn to scale";
     }
     return {};
 }
@@ -148,8 +149,8 @@ void Drawing::Lines(SvgWriter& svg) const {
     for (const ProfilePvi& v : m_p.pvis()) {
         if (!v.curve) continue;
         const VerticalCurve& c = *v.curve;
-        svg.Path("M" + Point(svg, X(c.pvc()), Y(c.pvcElevation())) + " L" + Point(svg, X(v.station), Y(v.elevation)) + " L" +
-                     Point(svg, X(c.pvt()), Y(c.pvtElevation())),
+        svg.Path("M" + Point(svg, X(c.pvc()), Y(c.pvcElevation())) + " L" + Point(svg, X(v.station), Y(v.elevation)) +
+                     " L" + Point(svg, X(c.pvt()), Y(c.pvtElevation())),
                  R"(fill="none" stroke="#888888" stroke-width="1" stroke-dasharray="6 4")");
     }
     for (const ProfilePiece& piece : m_p.pieces()) {
@@ -163,8 +164,9 @@ void Drawing::Lines(SvgWriter& svg) const {
         // A parabola is the quadratic Bezier whose control point is where its end
         // tangents meet, and scaling keeps that true.
         const double control = Y(g.pvcElevation + g.g1 / 100 * g.length / 2);
-        svg.Path("M" + Point(svg, x0, y0) + " Q" + Point(svg, X(g.pvc + g.length / 2), control) + " " + Point(svg, x1, y1),
-                 std::string("fill=\"none\" stroke=\"") + kCurveColour + "\" stroke-width=\"2.6\"");
+        svg.Path(
+            "M" + Point(svg, x0, y0) + " Q" + Point(svg, X(g.pvc + g.length / 2), control) + " " + Point(svg, x1, y1),
+            std::string("fill=\"none\" stroke=\"") + kCurveColour + "\" stroke-width=\"2.6\"");
     }
 }
 
@@ -176,14 +178,15 @@ void Drawing::Marks(SvgWriter& svg) {
         if (offRoad) {
             svg.Circle(x, y, 3.5, R"(fill="#ffffff" stroke="#555555" stroke-width="1.2")");
         } else if (turning) {
-            svg.Path(
-                "M" + Point(svg, x, y - 5) + " L" + Point(svg, x + 5, y) + " L" + Point(svg, x, y + 5) + " L" + Point(svg, x - 5, y) + " Z",
-                R"(fill="#b3261e" stroke="#ffffff" stroke-width="1")");
+            svg.Path("M" + Point(svg, x, y - 5) + " L" + Point(svg, x + 5, y) + " L" + Point(svg, x, y + 5) + " L" +
+                         Point(svg, x - 5, y) + " Z",
+                     R"(fill="#b3261e" stroke="#ffffff" stroke-width="1")");
         } else {
             svg.Circle(x, y, 4, std::string("fill=\"#ffffff\" stroke=\"") + kInk + "\" stroke-width=\"1.8\"");
         }
-        svg.Path("M" + Point(svg, x, y - 6) + " L" + Point(svg, x, kTop) + " L" + Point(svg, m.labelX, kLabelBottom + 6),
-                 R"(fill="none" stroke="#aaaaaa" stroke-width="0.7")");
+        svg.Path(
+            "M" + Point(svg, x, y - 6) + " L" + Point(svg, x, kTop) + " L" + Point(svg, m.labelX, kLabelBottom + 6),
+            R"(fill="none" stroke="#aaaaaa" stroke-width="0.7")");
         svg.Text(m.labelX + 4, kLabelBottom, m.label, R"(font-size="11" fill="#222222")", -90);
     }
 }

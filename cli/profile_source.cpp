@@ -1,4 +1,4 @@
-#include "profile_source.h"
+#include "cli/profile_source.h"
 
 #include <algorithm>
 #include <cctype>

@@ -1,4 +1,4 @@
-#include "profile_table.h"
+#include "cli/profile_table.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "station_input.h"
+#include "cli/station_input.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "svg_writer.h"
+#include "cli/svg_writer.h"
 
 #include <cmath>
 

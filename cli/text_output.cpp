@@ -1,4 +1,4 @@
-#include "text_output.h"
+#include "cli/text_output.h"
 
 #include <cmath>
 #include <ctime>
@@ -26,9 +26,7 @@ size_t Utf8SequenceLength(std::string_view s, size_t i) {
     return n;
 }
 
-std::string OptionalNumber(const std::optional<double>& value) {
-    return value ? FormatNumber(*value) : std::string();
-}
+std::string OptionalNumber(const std::optional<double>& value) { return value ? FormatNumber(*value) : std::string(); }
 
 std::string_view CaseText(SightCase c) {
     switch (c) {

@@ -35,8 +35,8 @@ QString WithoutLeadingBlanks(const QString& path) {
 
 }  // namespace
 
-FileCommands::FileCommands(CurveWindowHost& host, WindowSlots& windowSlots, Platform& platform,
-                           RecentFilesMenu& recent, QWidget* owner)
+FileCommands::FileCommands(CurveWindowHost& host, WindowSlots& windowSlots, Platform& platform, RecentFilesMenu& recent,
+                           QWidget* owner)
     : m_host(host), m_slots(windowSlots), m_platform(platform), m_recent(recent), m_owner(owner) {}
 
 FileDialogRequest FileCommands::DialogRequest(const QString& fileName) {
@@ -94,7 +94,8 @@ void FileCommands::SaveCurveFileAs() {
     if (!curve) return;
     const QString path = ShowSaveAsDialog({});
     if (path.isEmpty()) return;
-    const QString newTitle = FileNameFromBytes(TitleAfterSaveAs(FileNameBytes(curve->windowTitle()), FileNameBytes(path)));
+    const QString newTitle =
+        FileNameFromBytes(TitleAfterSaveAs(FileNameBytes(curve->windowTitle()), FileNameBytes(path)));
     // Title and list follow the chosen path even if the write then fails.
     curve->setWindowTitle(newTitle);
     m_recent.AddRecentFile(path);
@@ -136,8 +137,8 @@ void FileCommands::LoadCurveFile(const QString& path) {
     WindowSlot& slot = m_slots.AllocateWindowSlot();
     slot.changed = false;
     frmCrestCurve& curve = m_host.OpenCurveWindow(slot);
-    curve.setWindowTitle(FileNameFromBytes(
-        TitleForLoadedFile(FileNameBytes(curve.windowTitle()), stored.lblMorF, FileNameBytes(path))));
+    curve.setWindowTitle(
+        FileNameFromBytes(TitleForLoadedFile(FileNameBytes(curve.windowTitle()), stored.lblMorF, FileNameBytes(path))));
     curve.ShowStoredCurve(LoadStoredCurve(stored, curve.UnitSystem().toStdString()));
     m_recent.AddRecentFile(path);
 }

@@ -15,12 +15,24 @@ namespace gw {
 
 constexpr std::array<AutoStationField, 5> kAutoStationFields = {{
     // name, value, kind, place (left, top, width, height), tooltip, limit
-    {"txtBeginSTA", &AutoStationing::txtBeginSTA, AutoStationFieldKind::BeginStation, {104, 120, 33, 19},
-     "Beginning station", 5},
-    {"txtPoints", &AutoStationing::txtPoints, AutoStationFieldKind::Points, {128, 80, 33, 19},
-     "Number of points between PVC and PVT station", 2},
-    {"txtBeginSTAM", &AutoStationing::txtBeginSTAM, AutoStationFieldKind::BeginPlus, {160, 120, 49, 19},
-     "Beginning station", 0},
+    {"txtBeginSTA",
+     &AutoStationing::txtBeginSTA,
+     AutoStationFieldKind::BeginStation,
+     {104, 120, 33, 19},
+     "Beginning station",
+     5},
+    {"txtPoints",
+     &AutoStationing::txtPoints,
+     AutoStationFieldKind::Points,
+     {128, 80, 33, 19},
+     "Number of points between PVC and PVT station",
+     2},
+    {"txtBeginSTAM",
+     &AutoStationing::txtBeginSTAM,
+     AutoStationFieldKind::BeginPlus,
+     {160, 120, 49, 19},
+     "Beginning station",
+     0},
     {"txtIncSTA", &AutoStationing::txtIncSTA, AutoStationFieldKind::IncrementStation, {104, 152, 33, 19}, "", 5},
     {"txtIncSTAM", &AutoStationing::txtIncSTAM, AutoStationFieldKind::IncrementPlus, {160, 152, 49, 19}, "", 0},
 }};
@@ -127,7 +139,8 @@ Outcome AutoStationing::Accept() {
         return std::nullopt;
     }
     for (const AutoStationField& field : kAutoStationFields) {
-        if (IsInputIn(field, true) && !IsNumericText(this->*field.value)) return Refuse(msg::kMustBeNumeric, field.value);
+        if (IsInputIn(field, true) && !IsNumericText(this->*field.value))
+            return Refuse(msg::kMustBeNumeric, field.value);
     }
     begSTA = ReadNumber(txtBeginSTA);
     begSTAM = ReadNumber(txtBeginSTAM);

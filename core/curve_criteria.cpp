@@ -30,10 +30,9 @@ std::vector<CriterionResult> Criteria(const VerticalCurve& curve, const CheckSet
         out.push_back(r);
     };
     if (curve.isCrest()) {
-        const double C = h.eye || h.object
-                             ? CrestConstantForHeights(Or(h.eye, DriverEyeHeight(metric)),
-                                                       Or(h.object, StoppingObjectHeight(metric)))
-                             : CrestConstant(CrestConstants::Current, metric);
+        const double C = h.eye || h.object ? CrestConstantForHeights(Or(h.eye, DriverEyeHeight(metric)),
+                                                                     Or(h.object, StoppingObjectHeight(metric)))
+                                           : CrestConstant(CrestConstants::Current, metric);
         add(Criterion::CrestStopping, S, C, CrestMinimumLength(A, S, C), true, true);
         if (auto passing = DesignPassingSightDistance(row.speed, metric)) {
             const double P = h.eye || h.oncomingVehicle

@@ -15,12 +15,12 @@ namespace gw {
 // Heights in ft or m; each one not given takes the value behind the published
 // constants.
 struct SightHeights {
-    std::optional<double> eye;             // driver's eye, both crest criteria
-    std::optional<double> object;          // object on the road, stopping sight distance
-    std::optional<double> oncomingVehicle; // passing sight distance
+    std::optional<double> eye;              // driver's eye, both crest criteria
+    std::optional<double> object;           // object on the road, stopping sight distance
+    std::optional<double> oncomingVehicle;  // passing sight distance
     std::optional<double> headlight;
-    std::optional<double> truckEye;        // under a structure
-    std::optional<double> taillight;       // under a structure
+    std::optional<double> truckEye;   // under a structure
+    std::optional<double> taillight;  // under a structure
 };
 
 struct CheckSettings {
@@ -53,9 +53,9 @@ struct CriterionResult {
 
 struct DrainageCheck {
     std::optional<std::array<double, 2>> flatZone;  // where |grade| <= 0.30 %
-    bool levelPoint = false;  // the curve has a high or low point
-    double maximumK = 0;      // for curbed roads
-    bool warn = false;        // a level point and K above the maximum
+    bool levelPoint = false;                        // the curve has a high or low point
+    double maximumK = 0;                            // for curbed roads
+    bool warn = false;                              // a level point and K above the maximum
 };
 
 struct CurveCheck {

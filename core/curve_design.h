@@ -27,7 +27,7 @@ struct ControlPointDesign {
     // change of grade as a fraction, d the distance of the point from the PVI and D its
     // height above the entering tangent produced. Empty when none is real.
     std::vector<Root> roots;
-    std::optional<double> length;  // the valid root; none: no curve passes the point
+    std::optional<double> length;   // the valid root; none: no curve passes the point
     double qa = 0, qb = 0, qc = 0;  // the quadratic's coefficients, for showing it
     double reach = 0;               // 2 |d|: the shortest curve that reaches the point
 };
@@ -49,7 +49,7 @@ struct ClearanceDesign {
     enum class Bound { AtMost, AtLeast, Any, None };
     Bound bound = Bound::None;
     double length = 0;
-    double roadLimit = 0;  // underside less clearance: the road may be at most this high
+    double roadLimit = 0;        // underside less clearance: the road may be at most this high
     ControlPointDesign through;  // the curve through (station, roadLimit)
 };
 

@@ -24,7 +24,7 @@ enum class CurveFieldKind {
 };
 
 struct CurveField {
-    std::string_view name;  // the control's name
+    std::string_view name;                                              // the control's name
     std::variant<std::string CurveSheet::*, bool CurveSheet::*> value;  // a text, or an option's state
     CurveFieldKind kind;
     Rect place;

@@ -23,9 +23,7 @@ double CurveGeometry::GradeAt(double x) const { return g1 + (g2 - g1) * x / leng
 // elevations window shows for it.
 double CurveGeometry::HalfRateOfChange() const { return (g2 / 100 - g1 / 100) / length / 2; }
 
-double CurveGeometry::ElevationAt(double x) const {
-    return pvcElevation + g1 / 100 * x + HalfRateOfChange() * (x * x);
-}
+double CurveGeometry::ElevationAt(double x) const { return pvcElevation + g1 / 100 * x + HalfRateOfChange() * (x * x); }
 
 std::optional<double> CurveGeometry::TurningPoint() const {
     if (GradesShareSign(g1, g2) || g1 == g2 || !(length > 0)) return std::nullopt;
@@ -78,7 +76,8 @@ void AppendStationText(std::string& out, double value, bool metric) {
         if (carry) plus = "0.0";
         char digits[24];
         out.append(digits, std::to_chars(digits, digits + sizeof digits,
-                                         static_cast<unsigned long long>(carry ? whole + 1 : whole)).ptr);
+                                         static_cast<unsigned long long>(carry ? whole + 1 : whole))
+                               .ptr);
         out += '+';
         const size_t at = out.size();
         out += plus;

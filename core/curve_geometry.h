@@ -19,10 +19,10 @@ std::optional<double> RateOfCurvature(double length, double gradeChange);
 bool GradesShareSign(double g1, double g2);
 
 struct CurveGeometry {
-    double pvc = 0;           // station value of the PVC (ft or m)
+    double pvc = 0;  // station value of the PVC (ft or m)
     double pvcElevation = 0;
-    double length = 0;        // L
-    double g1 = 0, g2 = 0;    // grades in percent
+    double length = 0;      // L
+    double g1 = 0, g2 = 0;  // grades in percent
     bool metric = false;
 
     double pvt() const { return pvc + length; }

@@ -153,8 +153,6 @@ Outcome SolveFromPVCPVT(CurveSheet& s) {
     return std::nullopt;
 }
 
-Outcome Calculate(CurveSheet& sheet) {
-    return sheet.optPVI ? SolveFromPVI(sheet) : SolveFromPVCPVT(sheet);
-}
+Outcome Calculate(CurveSheet& sheet) { return sheet.optPVI ? SolveFromPVI(sheet) : SolveFromPVCPVT(sheet); }
 
 }  // namespace gw

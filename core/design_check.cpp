@@ -9,22 +9,64 @@ namespace {
 
 // Design stopping sight distance on a level roadway, rounded for design.
 constexpr std::array<DesignSpeedRow, 14> kEnglishRows = {{
-    {15, 80}, {20, 115}, {25, 155}, {30, 200}, {35, 250}, {40, 305}, {45, 360},
-    {50, 425}, {55, 495}, {60, 570}, {65, 645}, {70, 730}, {75, 820}, {80, 910},
+    {15, 80},
+    {20, 115},
+    {25, 155},
+    {30, 200},
+    {35, 250},
+    {40, 305},
+    {45, 360},
+    {50, 425},
+    {55, 495},
+    {60, 570},
+    {65, 645},
+    {70, 730},
+    {75, 820},
+    {80, 910},
 }};
 constexpr std::array<DesignSpeedRow, 12> kMetricRows = {{
-    {20, 20}, {30, 35}, {40, 50}, {50, 65}, {60, 85}, {70, 105},
-    {80, 130}, {90, 160}, {100, 185}, {110, 220}, {120, 250}, {130, 285},
+    {20, 20},
+    {30, 35},
+    {40, 50},
+    {50, 65},
+    {60, 85},
+    {70, 105},
+    {80, 130},
+    {90, 160},
+    {100, 185},
+    {110, 220},
+    {120, 250},
+    {130, 285},
 }};
 
 // Passing sight distance for design of two-lane highways.
 constexpr std::array<DesignSpeedRow, 13> kEnglishPassingRows = {{
-    {20, 400}, {25, 450}, {30, 500}, {35, 550}, {40, 600}, {45, 700}, {50, 800},
-    {55, 900}, {60, 1000}, {65, 1100}, {70, 1200}, {75, 1300}, {80, 1400},
+    {20, 400},
+    {25, 450},
+    {30, 500},
+    {35, 550},
+    {40, 600},
+    {45, 700},
+    {50, 800},
+    {55, 900},
+    {60, 1000},
+    {65, 1100},
+    {70, 1200},
+    {75, 1300},
+    {80, 1400},
 }};
 constexpr std::array<DesignSpeedRow, 11> kMetricPassingRows = {{
-    {30, 120}, {40, 140}, {50, 160}, {60, 180}, {70, 210}, {80, 245},
-    {90, 280}, {100, 320}, {110, 355}, {120, 395}, {130, 440},
+    {30, 120},
+    {40, 140},
+    {50, 160},
+    {60, 180},
+    {70, 210},
+    {80, 245},
+    {90, 280},
+    {100, 320},
+    {110, 355},
+    {120, 395},
+    {130, 440},
 }};
 
 template <size_t N>
@@ -98,9 +140,7 @@ MinimumLength StructureMinimumLength(double A, double S, double clearance, doubl
 
 double StructureConstant(double clearance, double eye, double object) { return 800 * (clearance - (eye + object) / 2); }
 
-double ComfortMinimumLength(double A, double speed, bool metric) {
-    return A * speed * speed / ComfortConstant(metric);
-}
+double ComfortMinimumLength(double A, double speed, bool metric) { return A * speed * speed / ComfortConstant(metric); }
 
 double ComfortConstant(bool metric) { return metric ? 395 : 46.5; }
 

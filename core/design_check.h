@@ -9,8 +9,8 @@
 namespace gw {
 
 struct DesignSpeedRow {
-    double speed;           // mph or km/h
-    double sightDistance;   // ft or m
+    double speed;          // mph or km/h
+    double sightDistance;  // ft or m
 };
 
 // The design stopping sight distance for a speed: the row of the speed, or of the next
@@ -51,7 +51,7 @@ inline constexpr double kHeadlightBeam = 3.5;
 double HeadlightConstantForHeight(double headlight);
 
 struct MinimumLength {
-    double length = 0;      // never negative
+    double length = 0;         // never negative
     bool withinCurve = false;  // true: the S < L form applied; false: S > L
 };
 

@@ -29,7 +29,7 @@ struct ElevationField {
     // to 19 stand beside rows 0 to 9, 256 pixels to the right.
     Rect place;
     std::string_view tooltip;
-    int limit;  // characters the user may type, 0 for no limit
+    int limit;       // characters the user may type, 0 for no limit
     FilePlace file;  // a column fills its line from this place, one value per row
     ReportPiece report;
 };

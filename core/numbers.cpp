@@ -9,7 +9,7 @@ namespace gw {
 namespace {
 
 constexpr double kPow10[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
-                              1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+                             1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -27,12 +27,21 @@ NumberSpan ScanNumber(std::string_view s, size_t pos) {
     size_t i = pos;
     if (i < s.size() && (s[i] == '+' || s[i] == '-')) ++i;
     size_t digits = 0;
-    while (i < s.size() && IsDigit(s[i])) { ++i; ++digits; }
+    while (i < s.size() && IsDigit(s[i])) {
+        ++i;
+        ++digits;
+    }
     if (i < s.size() && s[i] == '.') {
         size_t j = i + 1;
         size_t fraction = 0;
-        while (j < s.size() && IsDigit(s[j])) { ++j; ++fraction; }
-        if (digits + fraction > 0) { i = j; digits += fraction; }
+        while (j < s.size() && IsDigit(s[j])) {
+            ++j;
+            ++fraction;
+        }
+        if (digits + fraction > 0) {
+            i = j;
+            digits += fraction;
+        }
     }
     if (digits == 0) return span;
     // The exponent belongs to the number only when at least one digit follows.
@@ -40,7 +49,10 @@ NumberSpan ScanNumber(std::string_view s, size_t pos) {
         size_t j = i + 1;
         if (j < s.size() && (s[j] == '+' || s[j] == '-')) ++j;
         size_t expDigits = 0;
-        while (j < s.size() && IsDigit(s[j])) { ++j; ++expDigits; }
+        while (j < s.size() && IsDigit(s[j])) {
+            ++j;
+            ++expDigits;
+        }
         if (expDigits > 0) i = j;
     }
     span.end = i;
@@ -57,7 +69,10 @@ bool LooksLikeOverflow(std::string_view n) {
     bool inFraction = false;
     long long leadingFractionZeros = 0;
     for (; i < n.size() && n[i] != 'e' && n[i] != 'E'; ++i) {
-        if (n[i] == '.') { inFraction = true; continue; }
+        if (n[i] == '.') {
+            inFraction = true;
+            continue;
+        }
         if (!seenNonZero && n[i] != '0') seenNonZero = true;
         if (!inFraction && seenNonZero) ++magnitude;
         if (inFraction && !seenNonZero) ++leadingFractionZeros;
@@ -67,7 +82,10 @@ bool LooksLikeOverflow(std::string_view n) {
     if (i < n.size()) {
         ++i;
         bool negative = false;
-        if (n[i] == '+' || n[i] == '-') { negative = n[i] == '-'; ++i; }
+        if (n[i] == '+' || n[i] == '-') {
+            negative = n[i] == '-';
+            ++i;
+        }
         for (; i < n.size(); ++i) {
             if (exponent < 100000000) exponent = exponent * 10 + (n[i] - '0');
         }
@@ -127,7 +145,7 @@ bool ConvertSpan(std::string_view text, NumberSpan span, double& out) {
 // The value's 15 significant digits and the power of ten of the first one.
 struct Digits15 {
     bool negative = false;
-    char digits[15];  // first non-zero unless the value is 0
+    char digits[15];   // first non-zero unless the value is 0
     int exponent = 0;  // the first digit stands for 10^exponent
 
     // The digit that stands for 10^power, 0 outside the fifteen.

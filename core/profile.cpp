@@ -90,8 +90,9 @@ struct ProfileBuilder {
             case CurveInput::Kind::None: break;
             case CurveInput::Kind::Length: L = c.length; break;
             case CurveInput::Kind::RateOfCurvature:
-                if (!(c.k >= 0)) return Fail("The K of the curve at " + Name(i) + " must be 0 or more, not " +
-                                            FormatNumber(c.k) + ".");
+                if (!(c.k >= 0))
+                    return Fail("The K of the curve at " + Name(i) + " must be 0 or more, not " + FormatNumber(c.k) +
+                                ".");
                 L = c.k * A;
                 break;
             case CurveInput::Kind::Unsymmetrical:

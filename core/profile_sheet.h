@@ -17,7 +17,7 @@ namespace gw {
 // solved in, the stations of its elevation rows and its offsets. Carried with a
 // profile, it brings a curve back as the same curve file.
 struct CurveFileExtras {
-    bool endsMode = false;  // solved from its PVC and PVT
+    bool endsMode = false;                                            // solved from its PVC and PVT
     std::array<std::pair<std::string, std::string>, kRowCount> rows;  // whole station and plus texts
     std::string verticalOffset, horizontalOffset, crossSlope;
 };

@@ -12,9 +12,7 @@ struct Refusal {
     std::string field;  // control name of the field to focus
     int row = -1;       // row index for the row fields of the elevations window
 
-    bool operator==(const Refusal& o) const {
-        return message == o.message && field == o.field && row == o.row;
-    }
+    bool operator==(const Refusal& o) const { return message == o.message && field == o.field && row == o.row; }
 };
 
 using Outcome = std::optional<Refusal>;  // empty: the command went through

@@ -82,7 +82,8 @@ std::vector<std::string> ReportLines(const CurveSheet& s, std::string_view date,
     out.Empty();
     // Only the rows that hold a station past station 0.
     for (int row = 0; row < kRowCount; ++row) {
-        if (ReadNumber(s.elevations.rows[row].txtTOTSTA1) > 0) ElevationGroup(out, s.elevations, ReportGroup::Rows, row);
+        if (ReadNumber(s.elevations.rows[row].txtTOTSTA1) > 0)
+            ElevationGroup(out, s.elevations, ReportGroup::Rows, row);
     }
     out.Add(kDashes);
     return out.Take();

@@ -63,8 +63,8 @@ StationTable StationRows(const CurveSheet& solved, double interval, std::size_t 
     points.push_back({c.length, "PVT"});
     const double eps = Tolerance(c);
     if (auto tp = c.TurningPoint()) {
-        auto at = std::lower_bound(points.begin(), points.end(), *tp - eps,
-                                   [](const Point& p, double x) { return p.x < x; });
+        auto at =
+            std::lower_bound(points.begin(), points.end(), *tp - eps, [](const Point& p, double x) { return p.x < x; });
         if (at != points.end() && std::fabs(at->x - *tp) <= eps) {
             at->name += at->name.empty() ? "TP" : "/TP";
         } else {

@@ -29,8 +29,7 @@ std::string CurveNameFromTitle(std::string_view title) {
 }
 
 std::string TitleAfterSave(std::string_view untitledTitle, std::string_view path) {
-    return std::string(untitledTitle.substr(0, untitledTitle.size() - kUntitled.size())) + " " +
-           std::string(path);
+    return std::string(untitledTitle.substr(0, untitledTitle.size() - kUntitled.size())) + " " + std::string(path);
 }
 
 std::string TitleAfterSaveAs(std::string_view title, std::string_view path) {
@@ -39,12 +38,10 @@ std::string TitleAfterSaveAs(std::string_view title, std::string_view path) {
     if (colon != std::string_view::npos) {
         return std::string(title.substr(0, std::min(title.size(), colon + 2))) + std::string(path);
     }
-    return std::string(title.substr(0, title.size() - std::min(title.size(), kUntitled.size()))) +
-           std::string(path);
+    return std::string(title.substr(0, title.size() - std::min(title.size(), kUntitled.size()))) + std::string(path);
 }
 
-std::string TitleForLoadedFile(std::string_view currentTitle, std::string_view storedUnits,
-                               std::string_view path) {
+std::string TitleForLoadedFile(std::string_view currentTitle, std::string_view storedUnits, std::string_view path) {
     if (storedUnits != kMetric && storedUnits != kEnglish) return std::string(currentTitle);
     return TitlePrefix(IsMetric(storedUnits)) + std::string(path);
 }

@@ -30,8 +30,7 @@ std::string TitleAfterSaveAs(std::string_view title, std::string_view path);
 
 // Opening a file: titled by the stored unit system, or unchanged when the stored
 // text is neither "Metric" nor "English".
-std::string TitleForLoadedFile(std::string_view currentTitle, std::string_view storedUnits,
-                               std::string_view path);
+std::string TitleForLoadedFile(std::string_view currentTitle, std::string_view storedUnits, std::string_view path);
 
 // The first line of the close question and its second line, joined by CR LF.
 std::string CloseQuestion(std::string_view curveName);

@@ -31,9 +31,7 @@ double VerticalCurve::pvtElevation() const {
     return last.ElevationAt(last.length);
 }
 
-double VerticalCurve::MiddleOrdinate() const {
-    return gradeChange() / 100 * m_lengthIn * m_lengthOut / (2 * length());
-}
+double VerticalCurve::MiddleOrdinate() const { return gradeChange() / 100 * m_lengthIn * m_lengthOut / (2 * length()); }
 
 double VerticalCurve::ElevationAt(double station) const {
     const CurveGeometry& p = m_symmetric || station < m_pviStation ? m_parts[0] : m_parts[1];

@@ -87,8 +87,7 @@ std::string ReadStore(const std::string& path, std::string& problem) {
 // Never waits long: a copy that hangs holding the lock must not hang this one.
 class FolderLock {
 public:
-    explicit FolderLock(const std::string& folder)
-        : m_fd(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    explicit FolderLock(const std::string& folder) : m_fd(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
         for (int attempt = 0; m_fd >= 0 && attempt < 300; ++attempt) {
             if (::flock(m_fd, LOCK_EX | LOCK_NB) == 0) return;
             if (errno != EWOULDBLOCK && errno != EINTR) return;  // no locks here: go on without

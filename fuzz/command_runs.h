@@ -57,7 +57,8 @@ inline CommandRun RunCommand(std::vector<std::string> args) {
 }
 
 [[noreturn]] inline void Fail(const char* what, const CommandRun& run, const MemoryFile& file) {
-    std::fprintf(stderr, "%s\ncommand: %s\nfile (first 2000 bytes):\n%.2000s\nstdout (first 2000 bytes):\n%.2000s\n"
+    std::fprintf(stderr,
+                 "%s\ncommand: %s\nfile (first 2000 bytes):\n%.2000s\nstdout (first 2000 bytes):\n%.2000s\n"
                  "stderr:\n%s\n",
                  what, run.line.c_str(), file.Bytes().c_str(), run.out.c_str(), run.err.c_str());
     std::abort();

@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     size_t next = 0;
     auto text = [&] { return next < texts.size() ? texts[next++] : std::string(); };
 
-    gw::CurveSheet sheet = gw::NewCurveSheet(flags & 1 ? "Metric" : "English");
+    gw::CurveSheet sheet = gw::NewCurveSheet(gw::UnitSystemName(flags & 1));
     if (flags & 2) gw::SwitchToPVCPVTMode(sheet);
     for (const gw::CurveField& field : gw::kCurveFields) {
         if (!gw::IsTextField(field)) continue;
@@ -50,7 +50,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     const gw::CurveSheet before = sheet;
     gw::Calculate(sheet);
-    for (std::string_view name : gw::CurveSheet::CurveFieldNames()) CheckWritten(*before.Field(name), *sheet.Field(name));
+    for (std::string_view name : gw::CurveSheet::CurveFieldNames())
+        CheckWritten(*before.Field(name), *sheet.Field(name));
 
     sheet.elevations.txtVOffset = text();
     sheet.elevations.txtHOffset = text();

@@ -46,12 +46,13 @@ bool LongTable(const gw::CurveSheet& sheet, const std::string& every) {
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (size == 0) return 0;
     const uint8_t flags = data[0];
-    std::vector<std::string> texts = gw::fuzz::Texts(std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
+    std::vector<std::string> texts =
+        gw::fuzz::Texts(std::string_view(reinterpret_cast<const char*>(data) + 1, size - 1));
     size_t next = 0;
     auto text = [&] { return next < texts.size() ? texts[next++] : std::string(); };
 
     // The twelve fields a user types, the offsets, the command's argument, then rows.
-    gw::CurveSheet sheet = gw::NewCurveSheet(flags & 4 ? "Metric" : "English");
+    gw::CurveSheet sheet = gw::NewCurveSheet(gw::UnitSystemName(flags & 4));
     if (flags & 8) gw::SwitchToPVCPVTMode(sheet);
     for (size_t i = 0; i < 12; ++i) *sheet.Field(gw::CurveSheet::CurveFieldNames()[i]) = text();
     sheet.elevations.txtVOffset = text();
@@ -86,7 +87,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (kind == 2) {
         if (out.find("=\"\"") != std::string::npos) Fail("an empty coordinate");
         if (out.size() > 512 * 1024) Fail("an unbounded drawing");
-        if (!out.empty() && (out.rfind("<svg ", 0) != 0 || out.size() < 7 || out.substr(out.size() - 7) != "</svg>\n")) {
+        if (!out.empty() &&
+            (out.rfind("<svg ", 0) != 0 || out.size() < 7 || out.substr(out.size() - 7) != "</svg>\n")) {
             Fail("a drawing cut short");
         }
         return 0;

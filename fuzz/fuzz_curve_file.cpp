@@ -8,7 +8,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const gw::CurveSheet loaded = gw::LoadStoredCurve(gw::ParseCurveFile(bytes), "Metric");
+    const gw::CurveSheet loaded = gw::LoadStoredCurve(gw::ParseCurveFile(bytes), gw::kMetric);
     if (loaded.optPVI && loaded.optPVCPVT) std::abort();
 
     // Texts holding a quote, a comma or a line break cannot round-trip by design.
@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (t->find_first_of("\",\r\n") != std::string::npos) plain = false;
     }
     if (plain && (loaded.optPVI || loaded.optPVCPVT)) {
-        const gw::CurveSheet again = gw::LoadStoredCurve(gw::ParseCurveFile(written), "Metric");
+        const gw::CurveSheet again = gw::LoadStoredCurve(gw::ParseCurveFile(written), gw::kMetric);
         if (gw::CurveFileBytes(again) != written) std::abort();
     }
     return 0;

@@ -33,7 +33,8 @@ namespace {
 std::string ProfileText(bool xml, bool metric, const std::vector<std::string>& cells) {
     std::string text;
     if (xml) {
-        text = std::string("<LandXML><Units><") + (metric ? "Metric linearUnit=\"meter\"" : "Imperial linearUnit=\"foot\"") +
+        text = std::string("<LandXML><Units><") +
+               (metric ? "Metric linearUnit=\"meter\"" : "Imperial linearUnit=\"foot\"") +
                "/></Units><ProfAlign name=\"P\">";
     } else {
         text = std::string("Station (") + (metric ? "m" : "ft") + "),Elevation,Length,K,Length in,Length out\n";
@@ -42,7 +43,10 @@ std::string ProfileText(bool xml, bool metric, const std::vector<std::string>& c
         const std::string &l1 = cells[i + 2], &l2 = cells[i + 3];
         if (!xml) {
             text += cells[i] + "," + cells[i + 1] +
-                    (l2.empty() ? "," + l1 + ",,," : l1.empty() ? ",," + l2 + ",," : ",,," + l1 + "," + l2) + "\n";
+                    (l2.empty()   ? "," + l1 + ",,,"
+                     : l1.empty() ? ",," + l2 + ",,"
+                                  : ",,," + l1 + "," + l2) +
+                    "\n";
             continue;
         }
         const std::string point = gw::cli::EscapeXml(cells[i]) + " " + gw::cli::EscapeXml(cells[i + 1]);
@@ -51,8 +55,8 @@ std::string ProfileText(bool xml, bool metric, const std::vector<std::string>& c
         } else if (l2.empty()) {
             text += "<ParaCurve length=\"" + gw::cli::EscapeXml(l1) + "\">" + point + "</ParaCurve>";
         } else {
-            text += "<UnsymParaCurve lengthIn=\"" + gw::cli::EscapeXml(l1) + "\" lengthOut=\"" + gw::cli::EscapeXml(l2) +
-                    "\">" + point + "</UnsymParaCurve>";
+            text += "<UnsymParaCurve lengthIn=\"" + gw::cli::EscapeXml(l1) + "\" lengthOut=\"" +
+                    gw::cli::EscapeXml(l2) + "\">" + point + "</UnsymParaCurve>";
         }
     }
     if (xml) text += "</ProfAlign></LandXML>";
@@ -64,7 +68,8 @@ std::string ProfileText(bool xml, bool metric, const std::vector<std::string>& c
 double StationValue(const std::string& text, bool metric) {
     const std::optional<gw::cli::StationParts> parts = gw::cli::SplitStationText(text);
     if (!parts) return std::nan("");
-    const double magnitude = std::fabs(gw::ReadNumber(parts->whole)) * (metric ? 1000 : 100) + gw::ReadNumber(parts->plus);
+    const double magnitude =
+        std::fabs(gw::ReadNumber(parts->whole)) * (metric ? 1000 : 100) + gw::ReadNumber(parts->plus);
     return parts->whole[0] == '-' ? -magnitude : magnitude;
 }
 

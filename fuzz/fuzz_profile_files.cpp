@@ -23,7 +23,8 @@ namespace {
 
 // Refusals that concern the file as a whole rather than a line of it.
 bool AboutTheWholeFile(const std::string& message) {
-    for (const char* start : {"The file ", "A profile needs a beginning and an end point", "The profile has no length"}) {
+    for (const char* start :
+         {"The file ", "A profile needs a beginning and an end point", "The profile has no length"}) {
         if (message.rfind(start, 0) == 0) return true;
     }
     return false;

@@ -83,10 +83,12 @@ private:
     bool Value(int depth) {
         if (depth > 64) return false;
         if (Eat('{')) {
-            return List('}', [this](int d) { return String() && (Space(), Eat(':')) && (Space(), Value(d + 1)); },
-                        depth);
+            return List(
+                '}', [this](int d) { return String() && (Space(), Eat(':')) && (Space(), Value(d + 1)); }, depth);
         }
-        if (Eat('[')) return List(']', [this](int d) { return Value(d + 1); }, depth);
+        if (Eat('['))
+            return List(
+                ']', [this](int d) { return Value(d + 1); }, depth);
         if (Peek() == '"') return String();
         if (Word("true") || Word("false") || Word("null")) return true;
         return Number();

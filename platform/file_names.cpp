@@ -29,9 +29,11 @@ void AppendUtf8(std::string& out, char32_t cp) {
 // byte there starts none (overlong forms and encoded surrogates included).
 size_t Utf8Sequence(std::string_view b, size_t at, char32_t& cp) {
     const unsigned char c = static_cast<unsigned char>(b[at]);
-    const size_t length = c < 0x80 ? 1 : c >= 0xC2 && c <= 0xDF ? 2 : c >= 0xE0 && c <= 0xEF ? 3
-                                     : c >= 0xF0 && c <= 0xF4   ? 4
-                                                                : 0;
+    const size_t length = c < 0x80                 ? 1
+                          : c >= 0xC2 && c <= 0xDF ? 2
+                          : c >= 0xE0 && c <= 0xEF ? 3
+                          : c >= 0xF0 && c <= 0xF4 ? 4
+                                                   : 0;
     if (length == 0 || at + length > b.size()) return 0;
     cp = length == 1 ? c : length == 2 ? c & 0x1F : length == 3 ? c & 0x0F : c & 0x07;
     for (size_t k = 1; k < length; ++k) {

@@ -55,7 +55,8 @@ void AskForFixedDecorations(QWidget&) {}
 
 class ModalGuard final : public QObject {
 public:
-    ModalGuard(QWidget& window, ModalSize size) : QObject(&window), m_window(window), m_fixed(size == ModalSize::Fixed) {
+    ModalGuard(QWidget& window, ModalSize size)
+        : QObject(&window), m_window(window), m_fixed(size == ModalSize::Fixed) {
         setObjectName(QStringLiteral("gwModalGuard"));
         window.installEventFilter(this);
     }

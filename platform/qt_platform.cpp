@@ -43,8 +43,7 @@ QString QtNameFilter(const FileFilter& filter) {
     return QStringLiteral("%1 (%2)").arg(filter.description, pattern);
 }
 
-std::optional<QString> RunFileDialog(QWidget* owner, const FileDialogRequest& request,
-                                     QFileDialog::AcceptMode mode) {
+std::optional<QString> RunFileDialog(QWidget* owner, const FileDialogRequest& request, QFileDialog::AcceptMode mode) {
     QFileDialog dialog(owner, request.title, request.folder);
     dialog.setAcceptMode(mode);
     // Any name may be chosen, existing or not: the commands report a missing file.
@@ -75,7 +74,8 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
         if (event->type() == QEvent::Show) {
-            for (const char* name : {"gbPrintRange", "pageSetLabel", "pageSetCombo", "collate", "reverse", "outputIcon"}) {
+            for (const char* name :
+                 {"gbPrintRange", "pageSetLabel", "pageSetCombo", "collate", "reverse", "outputIcon"}) {
                 if (auto* w = watched->findChild<QWidget*>(QString::fromLatin1(name))) w->hide();
             }
         }

@@ -3,7 +3,6 @@
 #include <QDialog>
 #include <QWindow>
 
-
 namespace gw {
 namespace {
 

@@ -32,6 +32,8 @@ QString TimeOfDayFormat(const QLocale& locale) {
 
 QString ShortDateText(const QLocale& locale, const QDate& date) { return locale.toString(date, QLocale::ShortFormat); }
 
-QString TimeOfDayText(const QLocale& locale, const QTime& time) { return locale.toString(time, TimeOfDayFormat(locale)); }
+QString TimeOfDayText(const QLocale& locale, const QTime& time) {
+    return locale.toString(time, TimeOfDayFormat(locale));
+}
 
 }  // namespace gw

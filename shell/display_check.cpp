@@ -5,9 +5,7 @@
 
 namespace gw {
 
-double LogicalPixelsPerInch(const QScreen& screen) {
-    return screen.logicalDotsPerInchX() * screen.devicePixelRatio();
-}
+double LogicalPixelsPerInch(const QScreen& screen) { return screen.logicalDotsPerInchX() * screen.devicePixelRatio(); }
 
 bool IsSmallFontDisplay(double logicalPixelsPerInch) { return std::lround(logicalPixelsPerInch) == 96; }
 

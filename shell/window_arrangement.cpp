@@ -28,9 +28,9 @@ std::vector<QRect> IconRects(int count, const QSize& iconSize, const QRect& area
     for (int i = 0; i < count; ++i) {
         const int row = i / perRow;
         const int column = i % perRow;
-        icons.emplace_back(QPoint(area.left() + column * iconSize.width(),
-                                  area.bottom() + 1 - (row + 1) * iconSize.height()),
-                           iconSize);
+        icons.emplace_back(
+            QPoint(area.left() + column * iconSize.width(), area.bottom() + 1 - (row + 1) * iconSize.height()),
+            iconSize);
     }
     return icons;
 }

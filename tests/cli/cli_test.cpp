@@ -102,7 +102,6 @@ protected:
     int m_files = 0;
 };
 
-
 TEST_F(CliTest, SolveWritesTheCurveFileAsSaveWouldOrItsJson) {
     const std::string file = EnglishCrest();
     Result r = RunCli({"solve", file});
@@ -170,7 +169,7 @@ TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
         {"plot", file, "--csv"},
         {"check", file, "--speed", "fast"},
         {"report", file, "--pdf", Path("none.pdf"), "--copies", "0"},  // once a 0-byte "PDF"
-        {"check", file, "--speed", "-h"},  // a value, not a call for help
+        {"check", file, "--speed", "-h"},                              // a value, not a call for help
     };
     for (const auto& args : bad) {
         Result r = RunCli(args);
@@ -217,19 +216,47 @@ TEST_F(CliTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
         std::function<void()> setUp;
         std::string message;
     } cases[] = {
-        {"OverAFileOnAFullDisk", full, {"table", crest, "--every", "0+1", "-o", full + "/table.txt"}, "/dev/null",
-         fullDisk, "cannot write '" + full + "/table.txt': " + noSpace},
-        {"ANewFileOnAFullDisk", full, {"table", crest, "--every", "0+1", "-o", full + "/new.txt"}, "/dev/null",
-         fullDisk, "cannot write '" + full + "/new.txt': " + noSpace},
-        {"OverAPdfOnAFullDisk", full, {"report", crest, "--pdf", full + "/report.pdf"}, "/dev/null", fullDisk,
+        {"OverAFileOnAFullDisk",
+         full,
+         {"table", crest, "--every", "0+1", "-o", full + "/table.txt"},
+         "/dev/null",
+         fullDisk,
+         "cannot write '" + full + "/table.txt': " + noSpace},
+        {"ANewFileOnAFullDisk",
+         full,
+         {"table", crest, "--every", "0+1", "-o", full + "/new.txt"},
+         "/dev/null",
+         fullDisk,
+         "cannot write '" + full + "/new.txt': " + noSpace},
+        {"OverAPdfOnAFullDisk",
+         full,
+         {"report", crest, "--pdf", full + "/report.pdf"},
+         "/dev/null",
+         fullDisk,
          "cannot write '" + full + "/report.pdf': " + noSpace},
-        {"OverAFilePastASizeLimit", limited, {"table", crest, "--every", "0+1", "-o", limited + "/table.txt"},
-         "/dev/null", sizeLimit, "cannot write '" + limited + "/table.txt': " + std::strerror(EFBIG)},
-        {"OverAPdfPastASizeLimit", limited, {"report", crest, "--pdf", limited + "/report.pdf"}, "/dev/null",
-         sizeLimit, "cannot write '" + limited + "/report.pdf': " + std::strerror(EFBIG)},
-        {"StandardOutputToDevFull", full, {"solve", crest}, "/dev/full", {},
+        {"OverAFilePastASizeLimit",
+         limited,
+         {"table", crest, "--every", "0+1", "-o", limited + "/table.txt"},
+         "/dev/null",
+         sizeLimit,
+         "cannot write '" + limited + "/table.txt': " + std::strerror(EFBIG)},
+        {"OverAPdfPastASizeLimit",
+         limited,
+         {"report", crest, "--pdf", limited + "/report.pdf"},
+         "/dev/null",
+         sizeLimit,
+         "cannot write '" + limited + "/report.pdf': " + std::strerror(EFBIG)},
+        {"StandardOutputToDevFull",
+         full,
+         {"solve", crest},
+         "/dev/full",
+         {},
          std::string("cannot write to standard output: ") + std::strerror(ENOSPC)},
-        {"StandardOutputOntoAFullDisk", full, {"table", crest, "--every", "0+1"}, full + "/stdout.txt", fullDisk,
+        {"StandardOutputOntoAFullDisk",
+         full,
+         {"table", crest, "--every", "0+1"},
+         full + "/stdout.txt",
+         fullDisk,
          "cannot write to standard output: " + noSpace},
     };
     for (const Case& c : cases) {
@@ -310,13 +337,17 @@ TEST_F(CliTest, JsonAddsKTurningPointElevationAndSightDistanceCase) {
         // K = 400 / 4; TP x = 200: 100 + 4 - 2 = 102; S = sqrt(400 * 1329 / 4) = 364.5545 <= L
         {{"English", "12", "0", "104", "2", "-2", "400"}, "100.0", "102.0", "S<L", "364.5545"},
         // A = 1.5: the headlights are never stopped; K = 800 / 1.5
-        {{"English", "3", "0", "50", "-1", "0.5", "800"}, "533.3333", "51.3333", "S>L",
+        {{"English", "3", "0", "50", "-1", "0.5", "800"},
+         "533.3333",
+         "51.3333",
+         "S>L",
          "unlimited: with A of 1.75 % or less the headlight beam never meets the road"},
     };
     for (const Case& c : cases) {
         const auto& v = c.curve;
-        const Result r = RunCli({"solve", "--json", Pvi(v[0].c_str(), v[1].c_str(), v[2].c_str(), v[3].c_str(),
-                                                     v[4].c_str(), v[5].c_str(), v[6].c_str())});
+        const Result r = RunCli(
+            {"solve", "--json",
+             Pvi(v[0].c_str(), v[1].c_str(), v[2].c_str(), v[3].c_str(), v[4].c_str(), v[5].c_str(), v[6].c_str())});
         ASSERT_EQ(r.status, kDone) << r.err;
         const std::string tail = std::string("  \"K\": \"") + c.k + "\",\n  \"turningPointElevation\": \"" +
                                  c.tpElevation + "\",\n  \"sightDistanceCase\": \"" + c.sightCase +

@@ -145,8 +145,9 @@ TEST_F(ProfileCommandsTest, BadArgumentsExitTwoWithTheReasonAndWriteNothing) {
         {design + "--through 51+00 440 --hoffset 12", "--hoffset goes with --xslope"},
         {design + "--k 50 --voffset 1", "--voffset goes with --through"},
         {design + "--under 51+00 --underside 450", "--under goes with --clearance"},
-        {"design " + sag + " --pvi 0 --k 50", "--pvi takes the number of a PVI as the profile command lists it, for "
-                                              "example 2"},
+        {"design " + sag + " --pvi 0 --k 50",
+         "--pvi takes the number of a PVI as the profile command lists it, for "
+         "example 2"},
         {"design " + sag + " --pvi 1 --k 50", "a curve goes at a PVI between the ends of the profile: PVI 2 to PVI 2",
          false},
         {"import " + sag + " --curve 3", "PVI 3 (line 4) has no vertical curve; curves are at PVI 2", false},
@@ -214,8 +215,9 @@ TEST_F(ProfileCommandsTest, TableRowsOverTheWholeProfile) {
 
 TEST_F(ProfileCommandsTest, CheckEndsWithTheVerdictAndItsStatus) {
     // A crest of A = 4 and a sag of A = 3.2, both 600 ft long.
-    const std::string file = File("p.csv", "Station (ft),Elevation,Length\n0+00,100\n10+00,120,600\n25+00,90,600\n"
-                                           "40+00,108\n");
+    const std::string file = File("p.csv",
+                                  "Station (ft),Elevation,Length\n0+00,100\n10+00,120,600\n25+00,90,600\n"
+                                  "40+00,108\n");
     struct Case {
         const char* name;
         std::vector<std::string> options;
@@ -227,17 +229,25 @@ TEST_F(ProfileCommandsTest, CheckEndsWithTheVerdictAndItsStatus) {
         // 323.6; comfort 3.2 * 55^2 / 46.5 = 208.2; general minimum 165.
         {"at 55 mph", {"--speed", "55"}, kDone, "Long enough: every curve meets every required criterion at 55 mph."},
         // At 60 mph, S = 570: 4 * 570^2 / 2158 = 602.2243, more than S.
-        {"at 60 mph", {"--speed", "60"}, kTooShort,
+        {"at 60 mph",
+         {"--speed", "60"},
+         kTooShort,
          "Too short: PVI 2 (line 3) needs 602.2243 ft for stopping sight distance."},
         // Passing at 55 mph, S = 900: 4 * 900^2 / 2800 = 1157.1429, more than S.
-        {"passing required", {"--speed", "55", "--passing"}, kTooShort,
+        {"passing required",
+         {"--speed", "55", "--passing"},
+         kTooShort,
          "Too short: PVI 2 (line 3) needs 1157.1429 ft for passing sight distance."},
         // An object 0.5 ft high: C = 200 (sqrt 3.5 + sqrt 0.5)^2 = 1329.1503; 4 * 495^2 / C.
-        {"a lower object", {"--speed", "55", "--object", "0.5"}, kTooShort,
+        {"a lower object",
+         {"--speed", "55", "--object", "0.5"},
+         kTooShort,
          "Too short: PVI 2 (line 3) needs 737.3884 ft for stopping sight distance."},
         // Under a structure 11 ft clear, a taillight 12 ft up: D = 800 (11 - (8 + 12) / 2)
         // = 800; 3.2 * 495^2 / 800 = 980.1, more than S.
-        {"under a structure", {"--speed", "55", "--clearance", "11", "--taillight", "12"}, kTooShort,
+        {"under a structure",
+         {"--speed", "55", "--clearance", "11", "--taillight", "12"},
+         kTooShort,
          "Too short: PVI 3 (line 4) needs 980.1 ft for sight under the structure."},
     };
     for (const Case& c : cases) {
@@ -261,25 +271,37 @@ TEST_F(ProfileCommandsTest, DesignStatuses) {
     } cases[] = {
         // PVI 41+00 at 1262, -2.50 / +3.00, through 1268.00 at 42+50: 687.22 ft, which
         // overlaps the next curve.
-        {"through a point", {"--through", "42+50", "1268"}, kNoSolution,
+        {"through a point",
+         {"--through", "42+50", "1268"},
+         kNoSolution,
          "The profile refuses this length: The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the first ends "
          "at 44+43.6096, after the second begins at 44+00.0."},
         // The same point on the finished surface, 0.5 above the profile and 12 ft out on
         // a -2 % cross slope: 1268 + 0.5 - 0.24.
-        {"through a point with offsets", {"--through", "42+50", "1268.26", "--voffset", "0.5", "--hoffset", "12",
-                                          "--xslope", "-2"},
-         kNoSolution, "The profile refuses this length: The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the "
-                   "first ends at 44+43.6096, after the second begins at 44+00.0."},
-        {"no solution", {"--through", "42+50", "1250"}, kNoSolution,
+        {"through a point with offsets",
+         {"--through", "42+50", "1268.26", "--voffset", "0.5", "--hoffset", "12", "--xslope", "-2"},
+         kNoSolution,
+         "The profile refuses this length: The curves at PVI 2 (line 3) and PVI 3 (line 4) overlap: the "
+         "first ends at 44+43.6096, after the second begins at 44+00.0."},
+        {"no solution",
+         {"--through", "42+50", "1250"},
+         kNoSolution,
          "No solution: no symmetric curve at this PVI passes through 42+50.0 at 1250.0."},
-        {"by K", {"--k", "20"}, kDone, "It fits between its neighbours: PVC 40+45.0 at 1263.375, PVT 41+55.0 at 1263.65."},
+        {"by K",
+         {"--k", "20"},
+         kDone,
+         "It fits between its neighbours: PVC 40+45.0 at 1263.375, PVT 41+55.0 at 1263.65."},
         // A sag: the road at 41+00 at most 1270 - 8 = 1262, the PVI itself: any curve
         // rises above it.
-        {"under a structure at the PVI", {"--under", "41+00", "--underside", "1270", "--clearance", "8"},
-         kNoSolution, "No solution: the tangent at 41+00.0 is already above it, and a sag curve only rises as it grows."},
+        {"under a structure at the PVI",
+         {"--under", "41+00", "--underside", "1270", "--clearance", "8"},
+         kNoSolution,
+         "No solution: the tangent at 41+00.0 is already above it, and a sag curve only rises as it grows."},
         // The road at 41+00 at most 1272 - 8 = 1264: a middle ordinate A L / 800 of at most
         // 2, so L at most 290.9091.
-        {"under a structure", {"--under", "41+00", "--underside", "1272", "--clearance", "8"}, kDone,
+        {"under a structure",
+         {"--under", "41+00", "--underside", "1272", "--clearance", "8"},
+         kDone,
          "It fits between its neighbours: PVC 39+54.5455 at 1265.6364, PVT 42+45.4545 at 1266.3636."},
     };
     for (const Case& c : cases) {
@@ -302,24 +324,26 @@ TEST_F(ProfileCommandsTest, DesignOnACurveFileIsNotBoundByItsEnds) {
 
 TEST_F(ProfileCommandsTest, ImportStatuses) {
     const std::string header = "Station (ft),Elevation,Length,Length in,Length out\n";
-    const std::string file = File("p.csv", header + "0+00,100\n10+00,120,400\n20+00,100,,300,500\n25+00,110\n30+00,100\n");
+    const std::string file =
+        File("p.csv", header + "0+00,100\n10+00,120,400\n20+00,100,,300,500\n25+00,110\n30+00,100\n");
     EXPECT_EQ(RunCli({"import", file, "--curve", "2"}).status, kDone);
     const Result unsymmetrical = RunCli({"import", file, "--curve", "3"});
     EXPECT_EQ(unsymmetrical.status, kRefused);
-    EXPECT_EQ(unsymmetrical.err, "gradewise-cli: the curve at PVI 3 (line 4) is unsymmetrical (L1 300.0, L2 500.0); "
-                                 "a curve file holds a symmetric curve\n");
+    EXPECT_EQ(unsymmetrical.err,
+              "gradewise-cli: the curve at PVI 3 (line 4) is unsymmetrical (L1 300.0, L2 500.0); "
+              "a curve file holds a symmetric curve\n");
     const Result past = RunCli({"import", file, "--curve", "6"});
     EXPECT_EQ(past.status, kUsage);
     EXPECT_EQ(past.err, "gradewise-cli: the profile has PVI 1 to PVI 5; curves are at PVI 2, PVI 3\n");
     // A stored row off the curve stops the rows as Calculate TOS does; the curve is still written.
-    const std::string rows = File(
-        "rows.xml",
-        "<LandXML><Units><Imperial linearUnit=\"foot\"/></Units><Alignments><Alignment><Profile>"
-        "<ProfAlign name=\"P\"><PVI>0 100</PVI><ParaCurve length=\"400\">1000 120</ParaCurve><PVI>2000 100</PVI>"
-        "<Feature name=\"gradewise-curve-file\"><Property label=\"pvi\" value=\"2\"/>"
-        "<Property label=\"row 1 whole\" value=\"9\"/><Property label=\"row 1 plus\" value=\"0\"/>"
-        "<Property label=\"row 2 whole\" value=\"20\"/><Property label=\"row 2 plus\" value=\"0\"/></Feature>"
-        "</ProfAlign></Profile></Alignment></Alignments></LandXML>");
+    const std::string rows =
+        File("rows.xml",
+             "<LandXML><Units><Imperial linearUnit=\"foot\"/></Units><Alignments><Alignment><Profile>"
+             "<ProfAlign name=\"P\"><PVI>0 100</PVI><ParaCurve length=\"400\">1000 120</ParaCurve><PVI>2000 100</PVI>"
+             "<Feature name=\"gradewise-curve-file\"><Property label=\"pvi\" value=\"2\"/>"
+             "<Property label=\"row 1 whole\" value=\"9\"/><Property label=\"row 1 plus\" value=\"0\"/>"
+             "<Property label=\"row 2 whole\" value=\"20\"/><Property label=\"row 2 plus\" value=\"0\"/></Feature>"
+             "</ProfAlign></Profile></Alignment></Alignments></LandXML>");
     const std::string out = m_folder.File("rows.gwf");
     const Result off = RunCli({"import", rows, "--curve", "2", "-o", out});
     EXPECT_EQ(off.status, kStationOffCurve);
@@ -346,8 +370,9 @@ TEST_F(ProfileCommandsTest, EveryBundledExampleComesBackThroughLandXml) {
 }
 
 TEST_F(ProfileCommandsTest, ListingAsTextAndJson) {
-    const std::string file = File("p.csv", "Station (m),Elevation,Length in,Length out\n0+000,100\n1+000,120,300,500\n"
-                                           "2+000,100\n2+500,110\n3+000,100\n");
+    const std::string file = File("p.csv",
+                                  "Station (m),Elevation,Length in,Length out\n0+000,100\n1+000,120,300,500\n"
+                                  "2+000,100\n2+500,110\n3+000,100\n");
     const Result text = RunCli({"profile", file});
     ASSERT_EQ(text.status, kDone) << text.err;
     EXPECT_EQ(text.out.substr(0, text.out.find("\n\nPVI 2")),
@@ -372,9 +397,9 @@ TEST_F(ProfileCommandsTest, PlotLabelsEveryPointInWellFormedSvg) {
     ASSERT_TRUE(svg.load_string(r.out.c_str()));
     std::vector<std::string> labels;
     for (pugi::xpath_node text : svg.select_nodes("//text")) labels.push_back(text.node().text().get());
-    for (const char* label : {"Profile of sag", "PVI 1  40+00.0  El. 444.84", "PVC 2  48+50.0  El. 436.34",
-                              "PVI 2  52+50.0  El. 432.34", "Low point 2  51+00.0  El. 435.09",
-                              "PVT 2  56+50.0  El. 441.14", "PVI 3  65+00.0  El. 459.84"}) {
+    for (const char* label :
+         {"Profile of sag", "PVI 1  40+00.0  El. 444.84", "PVC 2  48+50.0  El. 436.34", "PVI 2  52+50.0  El. 432.34",
+          "Low point 2  51+00.0  El. 435.09", "PVT 2  56+50.0  El. 441.14", "PVI 3  65+00.0  El. 459.84"}) {
         EXPECT_NE(std::find(labels.begin(), labels.end(), label), labels.end()) << label;
     }
 }

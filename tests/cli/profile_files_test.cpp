@@ -39,8 +39,11 @@ ProfileSource Source(const std::string& name, const std::string& text) {
 
 std::string LandXml(const std::string& units, const std::string& profAlign) {
     return "<?xml version=\"1.0\"?>\n<LandXML xmlns=\"http://www.landxml.org/schema/LandXML-1.2\" version=\"1.2\">\n"
-           "<Units>" + units + "</Units>\n<Alignments><Alignment name=\"A\" length=\"1\" staStart=\"0\">\n"
-           "<Profile>\n" + profAlign + "</Profile></Alignment></Alignments>\n</LandXML>\n";
+           "<Units>" +
+           units +
+           "</Units>\n<Alignments><Alignment name=\"A\" length=\"1\" staStart=\"0\">\n"
+           "<Profile>\n" +
+           profAlign + "</Profile></Alignment></Alignments>\n</LandXML>\n";
 }
 
 const std::string kFeet = R"(<Imperial linearUnit="foot" areaUnit="squareFoot" volumeUnit="cubicYard" )"
@@ -50,14 +53,14 @@ TEST(ProfileFilesTest, ExportsOfEveryKindOfCurveAreValidLandXmlInBothUnits) {
     test::TempFolder folder;
     const std::string csvBody =
         "0+00,100\n"
-        "10+00,120,400\n"          // symmetric
-        "20+00,100,,,300,500\n"    // unsymmetrical
-        "25+00,110\n"              // a bare grade break
-        "30+00,112,,50\n"          // by K
+        "10+00,120,400\n"        // symmetric
+        "20+00,100,,,300,500\n"  // unsymmetrical
+        "25+00,110\n"            // a bare grade break
+        "30+00,112,,50\n"        // by K
         "40+00,100\n";
     for (const char* units : {"ft", "m"}) {
-        const ProfileSource s = Source("p.csv", std::string("Station (") + units +
-                                                    "),Elevation,Length,K,Length in,Length out\n" + csvBody);
+        const ProfileSource s =
+            Source("p.csv", std::string("Station (") + units + "),Elevation,Length,K,Length in,Length out\n" + csvBody);
         ASSERT_TRUE(s.profile) << s.error;
         const std::string xml = ExportLandXml(s.document, *s.profile);
         EXPECT_EQ(SchemaErrors(folder, xml), "") << units;
@@ -98,8 +101,9 @@ TEST(ProfileFilesTest, ForeignLandXmlWithPrefixesAndBareBreaksIsRead) {
 }
 
 TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
-    const std::string two = "<ProfAlign name=\"one\"><PVI>0 1</PVI><PVI>10 2</PVI></ProfAlign>"
-                            "<ProfAlign name=\"two\"><PVI>0 1</PVI><PVI>10 2</PVI></ProfAlign>";
+    const std::string two =
+        "<ProfAlign name=\"one\"><PVI>0 1</PVI><PVI>10 2</PVI></ProfAlign>"
+        "<ProfAlign name=\"two\"><PVI>0 1</PVI><PVI>10 2</PVI></ProfAlign>";
     struct Case {
         const char* name;
         std::string xml;
@@ -125,12 +129,14 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
         {"two profiles", LandXml(kFeet, two),
          "The file has 2 profiles (ProfAlign 'one', 'two'); choose one by its name."},
         {"extras for no PVI",
-         LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
-                        "<Property label=\"pvi\" value=\"1e300\"/></Feature></ProfAlign>"),
+         LandXml(kFeet,
+                 "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
+                 "<Property label=\"pvi\" value=\"1e300\"/></Feature></ProfAlign>"),
          "Feature on line 7: its pvi '1e300' is not the number of a PVI."},
         {"extras past the end",
-         LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
-                        "<Property label=\"pvi\" value=\"3\"/></Feature></ProfAlign>"),
+         LandXml(kFeet,
+                 "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
+                 "<Property label=\"pvi\" value=\"3\"/></Feature></ProfAlign>"),
          "Feature on line 7: its pvi 3 is past the last PVI of the profile, PVI 2."},
         {"doubles back",
          LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<PVI>500 2</PVI>\n<PVI>400 2</PVI></ProfAlign>"),

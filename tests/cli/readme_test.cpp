@@ -49,7 +49,8 @@ std::vector<Step> Sessions(const std::string& readme) {
 std::string Shell(const gw::test::TempFolder& folder, const std::string& command) {
     const std::string script = folder.File("step.sh");
     std::ofstream(script) << "cd '" << folder.Path().string() << "' || exit 99\nPATH='" << folder.File("bin")
-                          << "':\"$PATH\"\n" << command << "\n";
+                          << "':\"$PATH\"\n"
+                          << command << "\n";
     std::string out;
     FILE* pipe = ::popen(("sh '" + script + "' 2>&1").c_str(), "r");
     char buffer[4096];

@@ -47,10 +47,10 @@ TEST(AutoStationingTest, TenPointsSpreadFromPvcToPvt) {
     ASSERT_FALSE(ApplyAutoStationing(s, d, &filled));
     EXPECT_TRUE(filled);
     EXPECT_TRUE(s.changed);
-    const std::vector<std::string> expected = {
-        "10+0.0",     "10+44.4444", "10+88.8889", "11+33.3333", "11+77.7778", "12+22.2222", "12+66.6667",
-        "13+11.1111", "13+55.5556", "14+0.0",     "+",          "+",          "+",          "+",
-        "+",          "+",          "+",          "+",          "+",          "+"};
+    const std::vector<std::string> expected = {"10+0.0",     "10+44.4444", "10+88.8889", "11+33.3333", "11+77.7778",
+                                               "12+22.2222", "12+66.6667", "13+11.1111", "13+55.5556", "14+0.0",
+                                               "+",          "+",          "+",          "+",          "+",
+                                               "+",          "+",          "+",          "+",          "+"};
     EXPECT_EQ(Stations(s), expected);
     EXPECT_EQ(s.elevations.rows[9].txtTotalTopSlab1, "100.0");
     EXPECT_TRUE(s.elevations.bCalcOK);
@@ -71,7 +71,9 @@ TEST(AutoStationingTest, SpacingRunsFromTheBeginningToThePvtOrTheLastRow) {
         const std::vector<std::string> st = Stations(s);
         EXPECT_EQ(st[1], std::string("10+") + r.increment + ".0");
         EXPECT_EQ(st[r.lastRow], r.lastStation);
-        if (r.lastRow + 1 < kRowCount) EXPECT_EQ(st[r.lastRow + 1], "+");
+        if (r.lastRow + 1 < kRowCount) {
+            EXPECT_EQ(st[r.lastRow + 1], "+");
+        }
     }
 }
 
@@ -154,7 +156,8 @@ TEST(AutoStationingFillTest, ANegativeCountEmptiesTheRowsAndFillsNone) {
     EXPECT_FALSE(ApplyAutoStationing(s, d, &filled));
     EXPECT_TRUE(filled);
     EXPECT_TRUE(s.changed);
-    for (const ElevationRow& row : s.elevations.rows) EXPECT_EQ(row.txtTOTSTA1 + row.txtTOTSTAM1 + row.txtTotalTopSlab1, "");
+    for (const ElevationRow& row : s.elevations.rows)
+        EXPECT_EQ(row.txtTOTSTA1 + row.txtTOTSTAM1 + row.txtTotalTopSlab1, "");
     EXPECT_TRUE(s.elevations.bCalcOK);  // Calculate TOS ran over the empty rows
 }
 

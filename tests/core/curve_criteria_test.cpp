@@ -143,7 +143,7 @@ TEST(CurveCriteriaTest, FlatZoneAndCurbedDrainage) {
     EXPECT_NEAR((*c.drainage.flatZone)[0], 1000 - 75, 1e-9);
     EXPECT_NEAR((*c.drainage.flatZone)[1], 1000 + 75, 1e-9);
     EXPECT_TRUE(c.drainage.warn);
-    EXPECT_FALSE(CheckCurve(Curve(-2, 2, 600), At(50)).drainage.warn);  // K 150
+    EXPECT_FALSE(CheckCurve(Curve(-2, 2, 600), At(50)).drainage.warn);        // K 150
     EXPECT_FALSE(CheckCurve(Curve(-4, -1, 1000), At(50)).drainage.flatZone);  // never within 0.30 %
 }
 

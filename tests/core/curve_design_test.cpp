@@ -79,9 +79,7 @@ TEST(CurveDesignTest, ClearanceUnderAStructureBoundsTheLength) {
     }
 }
 
-TEST(CurveDesignTest, LengthByKIsKTimesTheChangeOfGrade) {
-    EXPECT_DOUBLE_EQ(LengthForK(151, {1000, 100, 2, -2}), 604);
-}
+TEST(CurveDesignTest, LengthByKIsKTimesTheChangeOfGrade) { EXPECT_DOUBLE_EQ(LengthForK(151, {1000, 100, 2, -2}), 604); }
 
 }  // namespace
 }  // namespace gw

@@ -30,12 +30,12 @@ TEST(CurveFileWriteTest, TheDocumentedExampleByteForByte) {
     s.txtG1 = "2";
     s.txtG2 = "-1.5";
     s.txtLC = "400";
-    const std::string expected = "\"\",\"English\",,,,\"45.5\"\r\n"
-                                 "\"100\",\"12\",\"-1.5\",\"2\",\"400\",\"\",\"\"\r\n"
-                                 "\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
-                                 "#TRUE#,#FALSE#,\"\",\"\"\r\n" +
-                                 EmptyTexts(20) + "\r\n" + EmptyTexts(20) + "\r\n" + EmptyTexts(20) + "\r\n" +
-                                 EmptyTexts(3) + "\r\n";
+    const std::string expected =
+        "\"\",\"English\",,,,\"45.5\"\r\n"
+        "\"100\",\"12\",\"-1.5\",\"2\",\"400\",\"\",\"\"\r\n"
+        "\"\",\"\",\"\",\"\",\"\",\"\"\r\n"
+        "#TRUE#,#FALSE#,\"\",\"\"\r\n" +
+        EmptyTexts(20) + "\r\n" + EmptyTexts(20) + "\r\n" + EmptyTexts(20) + "\r\n" + EmptyTexts(3) + "\r\n";
     EXPECT_EQ(CurveFileBytes(s), expected);
 }
 

@@ -32,14 +32,16 @@ TEST(CurveGeometryTest, GradeAndElevationAlongACrest) {
     struct Case {
         double x, grade, elevation;
     } cases[] = {
-        {0, 2, 100}, {100, 1, 101.5}, {400, -2, 100},
+        {0, 2, 100},
+        {100, 1, 101.5},
+        {400, -2, 100},
     };
     for (const Case& k : cases) {
         EXPECT_NEAR(c.GradeAt(k.x), k.grade, 1e-12) << k.x;
         EXPECT_NEAR(c.ElevationAt(k.x), k.elevation, 1e-12) << k.x;
     }
-    EXPECT_DOUBLE_EQ(c.pviElevation(), 104);  // 100 + 0.02 * 200
-    EXPECT_DOUBLE_EQ(*c.RateOfCurvature(), 100);  // 400 / 4
+    EXPECT_DOUBLE_EQ(c.pviElevation(), 104);                                // 100 + 0.02 * 200
+    EXPECT_DOUBLE_EQ(*c.RateOfCurvature(), 100);                            // 400 / 4
     EXPECT_NEAR(*Curve(1000, 100, 400, -2, 3).TurningPoint(), 160, 1e-12);  // 2 * 400 / 5
     EXPECT_FALSE(Curve(1000, 100, 400, 0, 0).RateOfCurvature());
 }
@@ -50,10 +52,10 @@ TEST(CurveGeometryTest, SightDistanceCaseThatGoverned) {
         SightCase governing;
         bool finite;
     } cases[] = {
-        {400, 2, -2, SightCase::WithinCurve, true},   // sqrt(400 * 1329 / 4) = 364.6 <= 400
-        {100, 2, -2, SightCase::BeyondCurve, true},   // sqrt(100 * 1329 / 4) = 182.3 > 100
-        {300, -3, 2, SightCase::WithinCurve, true},   // sag, S = 292.1 <= 300
-        {100, -1, 2, SightCase::BeyondCurve, true},   // sag, S = 280 > 100
+        {400, 2, -2, SightCase::WithinCurve, true},     // sqrt(400 * 1329 / 4) = 364.6 <= 400
+        {100, 2, -2, SightCase::BeyondCurve, true},     // sqrt(100 * 1329 / 4) = 182.3 > 100
+        {300, -3, 2, SightCase::WithinCurve, true},     // sag, S = 292.1 <= 300
+        {100, -1, 2, SightCase::BeyondCurve, true},     // sag, S = 280 > 100
         {800, -1, 0.5, SightCase::BeyondCurve, false},  // A = 1.5 <= 1.75: unlimited
         {400, 1, 1, SightCase::None, true},
     };
@@ -70,9 +72,10 @@ TEST(CurveGeometryTest, StationTextPadsThePlusPartAndCarriesAWholeStation) {
         bool metric;
         const char* text;
     } cases[] = {
-        {1050.5, false, "10+50.5"}, {5, false, "0+05.0"}, {2050, true, "2+050.0"}, {-1010, true, "-1+010.0"},
-        {17999.99999, true, "18+000.0"}, {1799.99996, false, "18+00.0"}, {-1799.99996, false, "-18+00.0"},
-        {1799.99994, false, "17+99.9999"},
+        {1050.5, false, "10+50.5"},       {5, false, "0+05.0"},
+        {2050, true, "2+050.0"},          {-1010, true, "-1+010.0"},
+        {17999.99999, true, "18+000.0"},  {1799.99996, false, "18+00.0"},
+        {-1799.99996, false, "-18+00.0"}, {1799.99994, false, "17+99.9999"},
     };
     for (const Case& c : cases) EXPECT_EQ(StationText(c.value, c.metric), c.text) << c.value;
 }

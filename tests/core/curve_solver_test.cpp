@@ -16,10 +16,18 @@ using test::PviSheet;
 TEST(CurveSolverTest, TheWorkedCurveFromItsPviAndFromItsEnds) {
     CurveSheet s = PviSheet("English", "10", "0", "100", "2", "-2", "400");
     ASSERT_FALSE(Calculate(s));
-    for (auto [name, text] : {std::pair{"txtPVCSTA", "8"}, {"txtPVCSTAM", "0.0"}, {"txtPVTSTA", "12"},
-                              {"txtPVTSTAM", "0.0"}, {"txtPVCEval", "96.0"}, {"txtPVTEval", "96.0"},
-                              {"txtMO", "2.0"}, {"txtTPSTA", "10"}, {"txtTPSTAM", "0.0"}, {"txtSD", "364.5545"},
-                              {"txtPVIEval", "100"}, {"txtLC", "400"}}) {  // inputs are never rewritten
+    for (auto [name, text] : {std::pair{"txtPVCSTA", "8"},
+                              {"txtPVCSTAM", "0.0"},
+                              {"txtPVTSTA", "12"},
+                              {"txtPVTSTAM", "0.0"},
+                              {"txtPVCEval", "96.0"},
+                              {"txtPVTEval", "96.0"},
+                              {"txtMO", "2.0"},
+                              {"txtTPSTA", "10"},
+                              {"txtTPSTAM", "0.0"},
+                              {"txtSD", "364.5545"},
+                              {"txtPVIEval", "100"},
+                              {"txtLC", "400"}}) {  // inputs are never rewritten
         EXPECT_EQ(*s.Field(name), text) << name;
     }
     EXPECT_EQ(s.lblSDL, "SSD");
@@ -27,8 +35,13 @@ TEST(CurveSolverTest, TheWorkedCurveFromItsPviAndFromItsEnds) {
     CurveSheet e = EndsSheet("English", "8", "0", "96", "12", "0", "96", "2");
     e.txtG2 = "abc";  // a result in this mode, whatever it held
     ASSERT_FALSE(Calculate(e));
-    for (auto [name, text] : {std::pair{"txtLC", "400.0"}, {"txtPVISTA", "10"}, {"txtPVISTAM", "0.0"},
-                              {"txtPVIEval", "100.0"}, {"txtG2", "-2.0"}, {"txtMO", "2.0"}, {"txtSD", "364.5545"}}) {
+    for (auto [name, text] : {std::pair{"txtLC", "400.0"},
+                              {"txtPVISTA", "10"},
+                              {"txtPVISTAM", "0.0"},
+                              {"txtPVIEval", "100.0"},
+                              {"txtG2", "-2.0"},
+                              {"txtMO", "2.0"},
+                              {"txtSD", "364.5545"}}) {
         EXPECT_EQ(*e.Field(name), text) << name;
     }
 }
@@ -59,15 +72,19 @@ struct Check {
 // Every field from the checked one on is missing: the earliest is reported, and a
 // refused Calc writes nothing.
 TEST(CurveSolverChecksTest, RefuseInTableOrderAndWriteNothing) {
-    const std::vector<Check> pvi = {
-        {"txtPVISTA", "PVI Station needs to be entered."}, {"txtPVISTAM", "PVI Station needs to be entered."},
-        {"txtPVIEval", "PVI Elevation needs to be entered."}, {"txtG1", "G1 needs to be entered."},
-        {"txtG2", "G2 needs to be entered."},              {"txtLC", "Length of Curve needs to be entered."}};
-    const std::vector<Check> ends = {
-        {"txtPVCSTA", "PVC Station needs to be entered."},  {"txtPVCSTAM", "PVC Station needs to be entered."},
-        {"txtPVCEval", "PVC Elevation needs to be entered."}, {"txtPVTSTA", "PVT Station needs to be entered."},
-        {"txtPVTSTAM", "PVT Station needs to be entered."},  {"txtPVTEval", "PVT Elevation needs to be entered."},
-        {"txtG1", "G1 needs to be entered."}};
+    const std::vector<Check> pvi = {{"txtPVISTA", "PVI Station needs to be entered."},
+                                    {"txtPVISTAM", "PVI Station needs to be entered."},
+                                    {"txtPVIEval", "PVI Elevation needs to be entered."},
+                                    {"txtG1", "G1 needs to be entered."},
+                                    {"txtG2", "G2 needs to be entered."},
+                                    {"txtLC", "Length of Curve needs to be entered."}};
+    const std::vector<Check> ends = {{"txtPVCSTA", "PVC Station needs to be entered."},
+                                     {"txtPVCSTAM", "PVC Station needs to be entered."},
+                                     {"txtPVCEval", "PVC Elevation needs to be entered."},
+                                     {"txtPVTSTA", "PVT Station needs to be entered."},
+                                     {"txtPVTSTAM", "PVT Station needs to be entered."},
+                                     {"txtPVTEval", "PVT Elevation needs to be entered."},
+                                     {"txtG1", "G1 needs to be entered."}};
     for (const bool pviMode : {true, false}) {
         const std::vector<Check>& order = pviMode ? pvi : ends;
         for (size_t missing = 0; missing < order.size(); ++missing) {
@@ -108,10 +125,10 @@ TEST_P(TurningPointTest, FollowsTheSignsOfTheGrades) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Grades, TurningPointTest,
-                         ::testing::Values(TurningCase{"0", "-2", "8", "0.0"},    // at the PVC
-                                           TurningCase{"2", "0", "12", "0.0"},    // at the PVT
-                                           TurningCase{"3", "1", "", "N/A"},      // both positive
-                                           TurningCase{"0", "0", "0", "0.0"},     // flat: r is 0
+                         ::testing::Values(TurningCase{"0", "-2", "8", "0.0"},  // at the PVC
+                                           TurningCase{"2", "0", "12", "0.0"},  // at the PVT
+                                           TurningCase{"3", "1", "", "N/A"},    // both positive
+                                           TurningCase{"0", "0", "0", "0.0"},   // flat: r is 0
                                            TurningCase{"-3", "1", "11", "0.0"}));
 
 TEST(CurveSolverChangeTest, OnlyAMovedStationEmptiesTheRowsAndMarksChanged) {
@@ -161,7 +178,8 @@ TEST(CurveSolverDegenerateTest, ZeroNegativeAndHugeInputsShowNoNonsense) {
     CurveSheet huge = PviSheet("English", "1e307", "0", "1e308", "1e308", "-1e308", "1e308");
     ASSERT_FALSE(Calculate(huge));
     for (std::string_view name : CurveSheet::CurveFieldNames()) {
-        if (name == "txtPVISTA" || name == "txtPVIEval" || name == "txtG1" || name == "txtG2" || name == "txtLC") continue;
+        if (name == "txtPVISTA" || name == "txtPVIEval" || name == "txtG1" || name == "txtG2" || name == "txtLC")
+            continue;
         EXPECT_EQ(huge.Field(name)->find_first_of("nie"), std::string::npos) << name << " = " << *huge.Field(name);
     }
 }

@@ -12,9 +12,9 @@ TEST(DesignCheckTest, SpeedsBetweenRowsTakeTheHigherRowAndOutsideIsRefused) {
         std::optional<double> rowSpeed;
         double sightDistance;
     } cases[] = {
-        {15, false, 15, 80},     {15.1, false, 20, 115},  {52, false, 55, 495},    {80, false, 80, 910},
-        {14.9, false, {}, 0},    {80.5, false, {}, 0},    {0, false, {}, 0},       {20, true, 20, 20},
-        {95, true, 100, 185},    {130, true, 130, 285},   {131, true, {}, 0},      {19, true, {}, 0},
+        {15, false, 15, 80},  {15.1, false, 20, 115}, {52, false, 55, 495}, {80, false, 80, 910},
+        {14.9, false, {}, 0}, {80.5, false, {}, 0},   {0, false, {}, 0},    {20, true, 20, 20},
+        {95, true, 100, 185}, {130, true, 130, 285},  {131, true, {}, 0},   {19, true, {}, 0},
     };
     for (const Case& c : cases) {
         const auto row = DesignStoppingSightDistance(c.speed, c.metric);

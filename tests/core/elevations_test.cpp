@@ -45,7 +45,7 @@ TEST_P(ElevationOffsetsTest, AddsOffsetsStageByStage) {
 INSTANTIATE_TEST_SUITE_P(Offsets, ElevationOffsetsTest,
                          ::testing::Values(OffsetCase{"", "", "", "102.0"}, OffsetCase{"0.5", "", "", "102.5"},
                                            OffsetCase{"0.5", "12", "-2", "102.26"},
-                                           OffsetCase{"", "12", "", "102.0"},   // H without X adds nothing
+                                           OffsetCase{"", "12", "", "102.0"},       // H without X adds nothing
                                            OffsetCase{"x", "12", "2", "102.24"}));  // bad V is ignored
 
 TEST(ElevationRunTest, ComputesEveryFilledRowOnTheCurve) {
@@ -56,7 +56,7 @@ TEST(ElevationRunTest, ComputesEveryFilledRowOnTheCurve) {
     ASSERT_FALSE(CalculateTOS(s));
     EXPECT_TRUE(s.elevations.bCalcOK);
     EXPECT_EQ(s.elevations.rows[3].txtTotalTopSlab1, "101.5");
-    EXPECT_EQ(s.elevations.rows[7].txtTotalTopSlab1, "100.0");  // E0 + (g1 + g2) L / 2
+    EXPECT_EQ(s.elevations.rows[7].txtTotalTopSlab1, "100.0");   // E0 + (g1 + g2) L / 2
     EXPECT_EQ(s.elevations.rows[12].txtTotalTopSlab1, "100.0");  // the PVC itself
     EXPECT_EQ(s.elevations.rows[4].txtTotalTopSlab1, "");
 }

@@ -32,20 +32,17 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         LeaveCase{"English", "txtLC", "abc", "", "Length of Curve can not be 0."},
         LeaveCase{"English", "txtLC", "12x", "", ""},  // reads as 12: the solver catches the rest
-        LeaveCase{"English", "txtLC", "-400", "", ""},
-        LeaveCase{"English", "txtG1", "", "", ""}, LeaveCase{"Metric", "txtPVCSTA", "1O", "", "Must be numeric."},
-        LeaveCase{"Metric", "txtPVTSTA", "-3", "", ""},
+        LeaveCase{"English", "txtLC", "-400", "", ""}, LeaveCase{"English", "txtG1", "", "", ""},
+        LeaveCase{"Metric", "txtPVCSTA", "1O", "", "Must be numeric."}, LeaveCase{"Metric", "txtPVTSTA", "-3", "", ""},
         LeaveCase{"English", "txtPVISTAM", "99.99", "10", ""},
         LeaveCase{"English", "txtPVISTAM", "99.995", "10", "Measurement must be less than 100 feet."},
         LeaveCase{"Metric", "txtPVCSTAM", "999.999", "1", ""},
         LeaveCase{"Metric", "txtPVCSTAM", "999.9995", "1", "Measurement must be less than 1000 meters."},
         LeaveCase{"English", "txtPVTSTAM", "0", "", "Can not have a 0 station."},
-        LeaveCase{"English", "txtPVTSTAM", "0.5", "0", ""},
-        LeaveCase{"English", "txtPVISTAM", "-5", "0", ""},
+        LeaveCase{"English", "txtPVTSTAM", "0.5", "0", ""}, LeaveCase{"English", "txtPVISTAM", "-5", "0", ""},
         LeaveCase{"English", "txtPVISTAM", "abc", "0", "Must be numeric."},
         // Neither unit system: no range check, but the zero station still fails.
-        LeaveCase{"Furlongs", "txtPVISTAM", "5000", "1", ""},
-        LeaveCase{"English", "txtMO", "abc", "", ""}));
+        LeaveCase{"Furlongs", "txtPVISTAM", "5000", "1", ""}, LeaveCase{"English", "txtMO", "abc", "", ""}));
 
 }  // namespace
 }  // namespace gw

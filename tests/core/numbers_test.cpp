@@ -54,16 +54,14 @@ struct FormatCase {
 
 class FormatNumberTest : public ::testing::TestWithParam<FormatCase> {};
 
-TEST_P(FormatNumberTest, WritesTheNumberFormat) {
-    EXPECT_EQ(FormatNumber(GetParam().value), GetParam().text);
-}
+TEST_P(FormatNumberTest, WritesTheNumberFormat) { EXPECT_EQ(FormatNumber(GetParam().value), GetParam().text); }
 
-INSTANTIATE_TEST_SUITE_P(
-    Values, FormatNumberTest,
-    ::testing::Values(FormatCase{2, "2.0"}, FormatCase{3.14159, "3.1416"}, FormatCase{1234567.891, "1234567.891"},
-                      FormatCase{99.99999, "100.0"}, FormatCase{-0.00001, "0.0"}, FormatCase{-0.00005, "-0.0001"},
-                      FormatCase{1e20, "100000000000000000000.0"}, FormatCase{2.00005, "2.0001"},
-                      FormatCase{99.7000000000000455, "99.7"}, FormatCase{std::nan(""), ""}));
+INSTANTIATE_TEST_SUITE_P(Values, FormatNumberTest,
+                         ::testing::Values(FormatCase{2, "2.0"}, FormatCase{3.14159, "3.1416"},
+                                           FormatCase{1234567.891, "1234567.891"}, FormatCase{99.99999, "100.0"},
+                                           FormatCase{-0.00001, "0.0"}, FormatCase{-0.00005, "-0.0001"},
+                                           FormatCase{1e20, "100000000000000000000.0"}, FormatCase{2.00005, "2.0001"},
+                                           FormatCase{99.7000000000000455, "99.7"}, FormatCase{std::nan(""), ""}));
 
 TEST(PlainNumberTextTest, KeepsFifteenSignificantDigitsWithoutExponent) {
     EXPECT_EQ(PlainNumberText(1.0 / 75), "0.0133333333333333");
@@ -102,8 +100,8 @@ TEST(PlainNumberTextTest, AgreesWithExactFifteenDigitRounding) {
         check(v);
         check(-v);
     }
-    for (double v : {0.1 + 0.2, 1.0000000000000005, 2.0000000000000049, 9.9999999999999995, 123456.78915,
-                     1e15 - 0.5, 999999999999999.5}) {
+    for (double v : {0.1 + 0.2, 1.0000000000000005, 2.0000000000000049, 9.9999999999999995, 123456.78915, 1e15 - 0.5,
+                     999999999999999.5}) {
         check(v);
     }
 }

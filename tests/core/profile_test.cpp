@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "core/profile_rows.h"
-#include "profile_builders.h"
+#include "tests/core/profile_builders.h"
 
 namespace gw {
 namespace {
@@ -112,9 +112,18 @@ TEST(ProfileRowsTest, EveryNamedPointIsARowAmongTheEvenStations) {
     const ProfileRowsOutcome t = ProfileRows(p, 500);
     ASSERT_TRUE(t.error.empty());
     const std::vector<std::pair<double, std::string>> expected = {
-        {0, "PVI 1"},        {500, ""},          {800, "PVC 2"},     {960, "High point 2"},
-        {1000, "PVI 2"},     {1200, "PVT 2/PVC 3"}, {1200 + 3 * 400 / 6.6, "Low point 3"},
-        {1400, "PVI 3"},     {1500, ""},         {1600, "PVT 3"},    {1650, "PVI 4"}, {2000, "PVI 5"},
+        {0, "PVI 1"},
+        {500, ""},
+        {800, "PVC 2"},
+        {960, "High point 2"},
+        {1000, "PVI 2"},
+        {1200, "PVT 2/PVC 3"},
+        {1200 + 3 * 400 / 6.6, "Low point 3"},
+        {1400, "PVI 3"},
+        {1500, ""},
+        {1600, "PVT 3"},
+        {1650, "PVI 4"},
+        {2000, "PVI 5"},
     };
     ASSERT_EQ(t.rows.size(), expected.size());
     for (size_t i = 0; i < expected.size(); ++i) {

@@ -5,8 +5,8 @@
 
 namespace gw::test {
 
-inline CurveSheet PviSheet(const char* units, const char* sta, const char* stam, const char* elev,
-                           const char* g1, const char* g2, const char* lc) {
+inline CurveSheet PviSheet(const char* units, const char* sta, const char* stam, const char* elev, const char* g1,
+                           const char* g2, const char* lc) {
     CurveSheet s = NewCurveSheet(units);
     s.txtPVISTA = sta;
     s.txtPVISTAM = stam;

@@ -42,8 +42,11 @@ CurveSheet EnglishCrest() {
 TEST(StationRowsTest, EvenStationsWithTheTurningPointAmongThem) {
     // 100 + 0.02 x - 0.00005 x^2: x = 100 -> 101.5, x = 200 -> 102, x = 300 -> 101.5
     const std::vector<StationRow> rows = Rows(EnglishCrest(), 100);
-    ExpectRows(rows, {{1000, "100.0", "PVC"}, {1100, "101.5", ""}, {1200, "102.0", "TP"},
-                      {1300, "101.5", ""}, {1400, "100.0", "PVT"}});
+    ExpectRows(rows, {{1000, "100.0", "PVC"},
+                      {1100, "101.5", ""},
+                      {1200, "102.0", "TP"},
+                      {1300, "101.5", ""},
+                      {1400, "100.0", "PVT"}});
     EXPECT_DOUBLE_EQ(rows[1].distance, 100);
     EXPECT_DOUBLE_EQ(rows[1].grade, 1);  // 2 - 4 * 100 / 400
 }
@@ -76,9 +79,14 @@ TEST(StationRowsTest, AnIntervalThatMissesThePvcAndATurningPointBetweenStations)
     // Every 0+030: 1+920, 1+950, 1+980 (the turning point, x = 80), ..., 2+090.
     // x = 20: 250 - 0.4 + 0.05 = 249.65; x = 50: 250 - 1 + 0.3125 = 249.3125;
     // x = 110: 250 - 2.2 + 1.5125 = 249.3125; x = 170: 250 - 3.4 + 3.6125 = 250.2125
-    ExpectRows(Rows(s, 30), {{1900, "250.0", "PVC"}, {1920, "249.65", ""}, {1950, "249.3125", ""},
-                                    {1980, "249.2", "TP"}, {2010, "249.3125", ""}, {2040, "249.65", ""},
-                                    {2070, "250.2125", ""}, {2100, "251.0", "PVT"}});
+    ExpectRows(Rows(s, 30), {{1900, "250.0", "PVC"},
+                             {1920, "249.65", ""},
+                             {1950, "249.3125", ""},
+                             {1980, "249.2", "TP"},
+                             {2010, "249.3125", ""},
+                             {2040, "249.65", ""},
+                             {2070, "250.2125", ""},
+                             {2100, "251.0", "PVT"}});
     // Every 0+025 steps over x = 80: the turning point gets a row of its own.
     const std::vector<StationRow> rows = Rows(s, 25);
     ASSERT_EQ(rows.size(), 10u);
@@ -114,8 +122,8 @@ TEST(StationRowsTest, ARowThatCannotBeComputedRefusesTheWholeTable) {
          "of grade of 4.0 %"},
         // At 1e12 ft the sums of plus parts are a few thousandths out: 50 ft steps would
         // merge rows, and far smaller ones would stop moving the station at all.
-        {"StationsTooLargeForTheInterval", test::PviSheet("English", "10000000000", "0", "104", "2", "-2", "400"),
-         50, 100000, "at stations near 9999999998+00.0 an interval of 50.0 is too small to tell the stations apart"},
+        {"StationsTooLargeForTheInterval", test::PviSheet("English", "10000000000", "0", "104", "2", "-2", "400"), 50,
+         100000, "at stations near 9999999998+00.0 an interval of 50.0 is too small to tell the stations apart"},
         {"MoreRowsThanAllowed", test::PviSheet("English", "12", "0", "104", "2", "-2", "400"), 50, 6,
          "the interval gives more than 6 rows"},
         {"ElevationBeyondTheRangeOfNumbers", test::PviSheet("English", "12", "0", "1e308", "2", "-2", "400"), 50,

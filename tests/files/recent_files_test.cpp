@@ -59,7 +59,8 @@ TEST_F(RecentFilesTest, OnlyShownEntriesCountAndShownEntriesStay) {
 }
 
 TEST_F(RecentFilesTest, AHandEditedSectionShowsAtMostSixEntries) {
-    for (int i = 1; i <= 8; ++i) store.SaveSetting("Recent Files", "RecentFile" + std::to_string(i), "/" + std::to_string(i));
+    for (int i = 1; i <= 8; ++i)
+        store.SaveSetting("Recent Files", "RecentFile" + std::to_string(i), "/" + std::to_string(i));
     recent.UpdateRecentFileMenu();
     EXPECT_EQ(Shown().size(), 6u);
     EXPECT_EQ(Shown().back(), "/6");

@@ -48,7 +48,7 @@ TEST(ReplaceFileTest, ReplacesTheFileKeepsItsPermissionsAndALinkStaysALink) {
 TEST(ReplaceFileTest, AFailedWriteLeavesThePreviousFileAndNoOther) {
     struct Case {
         const char* name;
-        bool previous;       // a file is there before
+        bool previous;        // a file is there before
         bool readOnlyFolder;  // the folder takes no temporary file
     } cases[] = {
         {"OverAFileOnAFullDisk", true, false},

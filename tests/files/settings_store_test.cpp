@@ -19,9 +19,7 @@ namespace {
 
 using V = std::vector<std::string>;
 
-void WriteText(const std::string& path, const std::string& text) {
-    std::ofstream(path, std::ios::binary) << text;
-}
+void WriteText(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
 
 TEST(SettingsStoreTest, MissingStoreGivesDefaultsAndFirstWriteCreatesIt) {
     test::TempFolder dir;
@@ -58,8 +56,9 @@ TEST(SettingsStoreTest, HandEditedAndGarbledFilesFallBackWithoutCrashing) {
     test::TempFolder dir;
     const std::string path = dir.File("s.ini");
     SettingsStore store(path);
-    WriteText(path, "garbage line\n[Settings\nMainLeft=1\n[Settings]\n=novalue\nMainTop=7\r\n"
-                    "MainTop=8\n[Recent Files]\nRecentFile1=x\n");
+    WriteText(path,
+              "garbage line\n[Settings\nMainLeft=1\n[Settings]\n=novalue\nMainTop=7\r\n"
+              "MainTop=8\n[Recent Files]\nRecentFile1=x\n");
     EXPECT_EQ(store.GetSetting("Settings", "MainLeft", "d"), "d");  // under the broken header
     EXPECT_EQ(store.GetSetting("Settings", "MainTop", "d"), "8");
     EXPECT_EQ(store.GetAllValues("Recent Files"), (V{"x"}));
@@ -112,12 +111,13 @@ TEST(SettingsStoreTest, AStoreThatCannotBeReadIsNeitherWaitedOnNorOverwritten) {
         std::function<void(const std::string& path)> make;
         const char* reason;
     } cases[] = {
-        {"Fifo", [](const std::string& path) { ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0); },
-         "it is not a plain file"},
+        {"Fifo", [](const std::string& path) { ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0); }, "it is not a plain file"},
         {"Folder", [](const std::string& path) { std::filesystem::create_directories(path + "/inside"); },
          "it is not a plain file"},
         {"LargerThanAnyStore",
-         [](const std::string& path) { WriteText(path, "[Recent Files]\nRecentFile1=/a\n" + std::string(2 << 20, ';')); },
+         [](const std::string& path) {
+             WriteText(path, "[Recent Files]\nRecentFile1=/a\n" + std::string(2 << 20, ';'));
+         },
          "it is larger than 1 MiB"},
     };
     for (const Case& c : cases) {

@@ -39,9 +39,9 @@ std::optional<Room> CaptionRoom(QWidget& w) {
         QStyleOptionButton option;
         option.initFrom(button);
         // What the style puts round an empty caption: frame and margins, or the indicator.
-        const QStyle::ContentsType type = qobject_cast<QRadioButton*>(button)  ? QStyle::CT_RadioButton
-                                          : qobject_cast<QCheckBox*>(button) ? QStyle::CT_CheckBox
-                                                                               : QStyle::CT_PushButton;
+        const QStyle::ContentsType type = qobject_cast<QRadioButton*>(button) ? QStyle::CT_RadioButton
+                                          : qobject_cast<QCheckBox*>(button)  ? QStyle::CT_CheckBox
+                                                                              : QStyle::CT_PushButton;
         const int around = button->style()->sizeFromContents(type, &option, QSize(0, 0), button).width();
         return Room{metrics.horizontalAdvance(WithoutMnemonic(button->text())), button->width() - around};
     }
@@ -73,8 +73,8 @@ TEST_P(CaptionsFitTest, EveryCaptionIsWholeAndNoControlRunsIntoAnother) {
     for (QWidget* c : window->findChildren<QWidget*>()) {
         if (!c->isVisibleTo(window)) continue;
         if (const std::optional<Room> room = CaptionRoom(*c)) {
-            EXPECT_LE(room->needed, room->available) << c->objectName().toStdString() << " \""
-                                                     << c->property("text").toString().toStdString() << "\"";
+            EXPECT_LE(room->needed, room->available)
+                << c->objectName().toStdString() << " \"" << c->property("text").toString().toStdString() << "\"";
         }
     }
     for (QWidget* a : controls) {
@@ -94,7 +94,8 @@ TEST_P(CaptionsFitTest, EveryCaptionIsWholeAndNoControlRunsIntoAnother) {
 INSTANTIATE_TEST_SUITE_P(
     Windows, CaptionsFitTest,
     ::testing::Values(
-        WindowCase{"CurveWindow", [](UiTest& t, frmMain&) -> QWidget* { return &static_cast<CaptionsFitTest&>(t).Curve(); }},
+        WindowCase{"CurveWindow",
+                   [](UiTest& t, frmMain&) -> QWidget* { return &static_cast<CaptionsFitTest&>(t).Curve(); }},
         WindowCase{"ElevationsWindow",
                    [](UiTest& t, frmMain& main) -> QWidget* {
                        return main.Slots()[static_cast<CaptionsFitTest&>(t).Curve().Slot()].elevationsWindow.get();

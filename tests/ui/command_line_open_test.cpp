@@ -38,9 +38,9 @@ TEST_F(CommandLineOpenTest, TwoNamedFilesOneMissingOpenOneWindowAndOneMessage) {
 
 TEST(CurveFileArguments, RelativeNamesAreTakenFromTheStartFolderNotTheCurrentOne) {
     // Start-up moves the current folder; the names must already be absolute by then.
-    EXPECT_EQ(CurveFileArguments({"a.gwf", "sub/../b.gwf", "./c d.gwf", "/elsewhere/e.gwf"}, "/home/eng/road"),
-              QStringList({"/home/eng/road/a.gwf", "/home/eng/road/b.gwf", "/home/eng/road/c d.gwf",
-                           "/elsewhere/e.gwf"}));
+    EXPECT_EQ(
+        CurveFileArguments({"a.gwf", "sub/../b.gwf", "./c d.gwf", "/elsewhere/e.gwf"}, "/home/eng/road"),
+        QStringList({"/home/eng/road/a.gwf", "/home/eng/road/b.gwf", "/home/eng/road/c d.gwf", "/elsewhere/e.gwf"}));
     EXPECT_TRUE(CurveFileArguments({}, "/home/eng").isEmpty());
 }
 

@@ -79,7 +79,8 @@ TEST_P(ModeTest, SwitchingEmptiesTheSheetAndSetsInputsTabOrderAndCaption) {
     for (QLineEdit* f : w.findChildren<QLineEdit*>()) EXPECT_TRUE(f->text().isEmpty()) << f->objectName().toStdString();
     EXPECT_TRUE(w.findChild<QLabel*>("lblSDL")->text().isEmpty());
     EXPECT_TRUE(Main().Slots()[1].elevationsWindow->Table().rows[19].txtTOTSTAM1.empty());
-    EXPECT_EQ(Main().Slots()[1].elevationsWindow->Table().txtPVCSTA, "3");  // the elevations window's station copies stay
+    EXPECT_EQ(Main().Slots()[1].elevationsWindow->Table().txtPVCSTA,
+              "3");           // the elevations window's station copies stay
     EXPECT_FALSE(Changed());  // a mouse command
     EXPECT_EQ(w.findChild<QPushButton*>("cmdCalcP")->text(), QString::fromLatin1(c.calcCaption));
     EXPECT_EQ(SortedInputs(w), Sorted(c.tabOrder));
@@ -110,7 +111,7 @@ TEST_F(CurveWindowTest, TypingStopsAtTheFieldLimits) {
 struct EditWay {
     const char* name;
     void (*edit)(QLineEdit&);
-    const char* after;  // from "123" set by the program, cursor at the start
+    const char* after;         // from "123" set by the program, cursor at the start
     bool marksChanged = true;  // keys that produce no character leave the flag alone
 };
 
@@ -141,29 +142,29 @@ TEST_P(UserEditTest, MarksTheCurveChangedByWhatItTypesAndKeepsTheLimit) {
 
 INSTANTIATE_TEST_SUITE_P(
     Edits, UserEditTest,
-    ::testing::Values(EditWay{"CtrlV", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_V, Qt::ControlModifier); }, "98123"},
-                      EditWay{"ShiftInsert", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Insert, Qt::ShiftModifier); },
-                              "98123"},
-                      EditWay{"MenuPaste", [](QLineEdit& f) { FromContextMenu(f, "&Paste"); }, "98123"},
-                      EditWay{"CtrlX",
-                              [](QLineEdit& f) {
-                                  f.selectAll();
-                                  QTest::keyClick(&f, Qt::Key_X, Qt::ControlModifier);
-                              },
-                              ""},
-                      EditWay{"MenuCut",
-                              [](QLineEdit& f) {
-                                  f.selectAll();
-                                  FromContextMenu(f, "Cu&t");
-                              },
-                              ""},
-                      EditWay{"MenuDelete",
-                              [](QLineEdit& f) {
-                                  f.selectAll();
-                                  FromContextMenu(f, "Delete");
-                              },
-                              ""},
-                      EditWay{"DeleteKey", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Delete); }, "23", false}),
+    ::testing::Values(
+        EditWay{"CtrlV", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_V, Qt::ControlModifier); }, "98123"},
+        EditWay{"ShiftInsert", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Insert, Qt::ShiftModifier); }, "98123"},
+        EditWay{"MenuPaste", [](QLineEdit& f) { FromContextMenu(f, "&Paste"); }, "98123"},
+        EditWay{"CtrlX",
+                [](QLineEdit& f) {
+                    f.selectAll();
+                    QTest::keyClick(&f, Qt::Key_X, Qt::ControlModifier);
+                },
+                ""},
+        EditWay{"MenuCut",
+                [](QLineEdit& f) {
+                    f.selectAll();
+                    FromContextMenu(f, "Cu&t");
+                },
+                ""},
+        EditWay{"MenuDelete",
+                [](QLineEdit& f) {
+                    f.selectAll();
+                    FromContextMenu(f, "Delete");
+                },
+                ""},
+        EditWay{"DeleteKey", [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Delete); }, "23", false}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CurveWindowTest, EnterCalculatesFromAnyFieldWithoutTheFieldsOwnCheck) {
@@ -186,8 +187,12 @@ TEST_F(CurveWindowTest, EnterCalculatesFromAnyFieldWithoutTheFieldsOwnCheck) {
     }
     {
         SCOPED_TRACE("in the last input of a full sheet");
-        for (auto [name, text] : {std::pair{"txtPVISTA", "1"}, {"txtPVISTAM", "250"}, {"txtPVIEval", "100"},
-                                  {"txtG1", "2"}, {"txtG2", "-2"}, {"txtLC", "200"}}) {
+        for (auto [name, text] : {std::pair{"txtPVISTA", "1"},
+                                  {"txtPVISTAM", "250"},
+                                  {"txtPVIEval", "100"},
+                                  {"txtG1", "2"},
+                                  {"txtG2", "-2"},
+                                  {"txtLC", "200"}}) {
             w.Field(name)->setText(text);
         }
         Press(w.Field("txtLC"), Qt::Key_Return);
@@ -236,15 +241,15 @@ TEST_P(LeaveTest, ShowsTheMessageOnceAndPutsTheFocusBackWithTheTextAsTyped) {
 
 // The checks themselves are the core's; these rows show each kind reaches the window
 // with the window's own unit system.
-INSTANTIATE_TEST_SUITE_P(
-    CurveFields, LeaveTest,
-    ::testing::Values(LeaveCase{"GradeWithLetter", true, "txtG1", "12a", "", "Must be numeric."},
-                      LeaveCase{"EnglishPlusBeyondLimit", false, "txtPVISTAM", "150", "1",
-                                "Measurement must be less than 100 feet."},
-                      LeaveCase{"MetricPlusBeyondLimit", true, "txtPVISTAM", "1000", "1",
-                                "Measurement must be less than 1000 meters."},
-                      LeaveCase{"ZeroStation", false, "txtPVISTAM", "0", "0", "Can not have a 0 station."}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(CurveFields, LeaveTest,
+                         ::testing::Values(LeaveCase{"GradeWithLetter", true, "txtG1", "12a", "", "Must be numeric."},
+                                           LeaveCase{"EnglishPlusBeyondLimit", false, "txtPVISTAM", "150", "1",
+                                                     "Measurement must be less than 100 feet."},
+                                           LeaveCase{"MetricPlusBeyondLimit", true, "txtPVISTAM", "1000", "1",
+                                                     "Measurement must be less than 1000 meters."},
+                                           LeaveCase{"ZeroStation", false, "txtPVISTAM", "0", "0",
+                                                     "Can not have a 0 station."}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 using LeaveFocusTest = UiTest;
 

@@ -107,8 +107,12 @@ TEST_F(ElevationsFlowTest, AStationBeforeThePvcKeepsTheWindowOpenOnTheRow) {
 
 TEST_F(ElevationsFlowTest, StationCopiesKeepEveryDigitSoTheRangeCheckHolds) {
     frmCrestCurve& w = NewCurve(false);
-    for (auto [name, text] : {std::pair{"txtPVISTA", "99999"}, {"txtPVISTAM", "50"}, {"txtPVIEval", "104"},
-                              {"txtG1", "2"}, {"txtG2", "-2"}, {"txtLC", "400"}}) {
+    for (auto [name, text] : {std::pair{"txtPVISTA", "99999"},
+                              {"txtPVISTAM", "50"},
+                              {"txtPVIEval", "104"},
+                              {"txtG1", "2"},
+                              {"txtG2", "-2"},
+                              {"txtLC", "400"}}) {
         TypeInto(w.Field(name), text);
     }
     QTest::keyClick(w.Field("txtLC"), Qt::Key_Return);
@@ -156,10 +160,13 @@ TEST_F(ElevationsFlowTest, ARangeMessageOnOpeningComesOverTheShownWindow) {
              "\"104\",\"12\",\"-2\",\"2\",\"400\",\"100.0\",\"0.0\"\r\n"
              "\"14\",\"100.0\",\"0.0\",\"10\",\"364.5545\",\"2.0\"\r\n"
              "#TRUE#,#FALSE#,\"12\",\"0.0\"\r\n"
-             "\"9\",\"11\"" + QByteArray(",\"\"").repeated(18) + "\r\n"
-             "\"50\",\"0\"" + QByteArray(",\"\"").repeated(18) + "\r\n" +
-             QByteArray("\"\"") + QByteArray(",\"\"").repeated(19) + "\r\n"
-             "\"\",\"\",\"\"\r\n");
+             "\"9\",\"11\"" +
+                 QByteArray(",\"\"").repeated(18) +
+                 "\r\n"
+                 "\"50\",\"0\"" +
+                 QByteArray(",\"\"").repeated(18) + "\r\n" + QByteArray("\"\"") + QByteArray(",\"\"").repeated(19) +
+                 "\r\n"
+                 "\"\",\"\",\"\"\r\n");
     frmCrestCurve* w = Open(FilePath("before-pvc.gwf"));
     ASSERT_NE(w, nullptr);
     m_platform.AnswerMessage(MessageButton::Ok);
@@ -235,35 +242,38 @@ TEST_P(QuickClickTest, NeverLosesTheFieldsMessage) {
     EXPECT_EQ(Messages(), GetParam().messages);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Clicks, QuickClickTest,
-    ::testing::Values(
-        QuickClick{"WholeStationThenOK",
-                   [](QuickClickTest&, ElevationsWindow& e) {
-                       QuickClickTest::TypeThenClick(e.RowField("txtTOTSTA1", 0), "x", e, "cmdOK");
-                   },
-                   {"Must be numeric.", "Must be >= to PVCSTA."}},
-        QuickClick{"PlusPartThenOK",
-                   [](QuickClickTest&, ElevationsWindow& e) {
-                       e.RowField("txtTOTSTA1", 0)->setText("11");
-                       QuickClickTest::TypeThenClick(e.RowField("txtTOTSTAM1", 0), "100", e, "cmdOK");
-                   },
-                   {"Measurement must be less than 100 feet."}},
-        QuickClick{"WholeStationThenAutoStationing",
-                   [](QuickClickTest&, ElevationsWindow& e) {
-                       // No auto-stationing dialog is queued: opening one would fail the test.
-                       QuickClickTest::TypeThenClick(e.RowField("txtTOTSTA1", 0), "x", e, "cmdAutoStation");
-                   },
-                   {"Must be numeric.", "Must be >= to PVCSTA."}},
-        QuickClick{"BeginningPlusPartThenOK",
-                   [](QuickClickTest& t, ElevationsWindow& e) {
-                       t.InSpacingMode(e, [](AutoStationDialog& d) {
-                           d.Field("txtBeginSTAM")->clear();
-                           QuickClickTest::TypeThenClick(d.Field("txtBeginSTAM"), "99.995", d, "OKButton");
-                       });
-                   },
-                   {"Measurement must be less than 100 feet."}}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Clicks, QuickClickTest,
+                         ::testing::Values(QuickClick{"WholeStationThenOK",
+                                                      [](QuickClickTest&, ElevationsWindow& e) {
+                                                          QuickClickTest::TypeThenClick(e.RowField("txtTOTSTA1", 0),
+                                                                                        "x", e, "cmdOK");
+                                                      },
+                                                      {"Must be numeric.", "Must be >= to PVCSTA."}},
+                                           QuickClick{"PlusPartThenOK",
+                                                      [](QuickClickTest&, ElevationsWindow& e) {
+                                                          e.RowField("txtTOTSTA1", 0)->setText("11");
+                                                          QuickClickTest::TypeThenClick(e.RowField("txtTOTSTAM1", 0),
+                                                                                        "100", e, "cmdOK");
+                                                      },
+                                                      {"Measurement must be less than 100 feet."}},
+                                           QuickClick{"WholeStationThenAutoStationing",
+                                                      [](QuickClickTest&, ElevationsWindow& e) {
+                                                          // No auto-stationing dialog is queued: opening one would fail
+                                                          // the test.
+                                                          QuickClickTest::TypeThenClick(e.RowField("txtTOTSTA1", 0),
+                                                                                        "x", e, "cmdAutoStation");
+                                                      },
+                                                      {"Must be numeric.", "Must be >= to PVCSTA."}},
+                                           QuickClick{"BeginningPlusPartThenOK",
+                                                      [](QuickClickTest& t, ElevationsWindow& e) {
+                                                          t.InSpacingMode(e, [](AutoStationDialog& d) {
+                                                              d.Field("txtBeginSTAM")->clear();
+                                                              QuickClickTest::TypeThenClick(d.Field("txtBeginSTAM"),
+                                                                                            "99.995", d, "OKButton");
+                                                          });
+                                                      },
+                                                      {"Measurement must be less than 100 feet."}}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace gw::test

@@ -80,8 +80,13 @@ TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
     frmCrestCurve& w = NewCurve(false);
     QTest::mouseClick(w.findChild<QRadioButton*>("optPVCPVT"), Qt::LeftButton);
     Settle();
-    for (auto [name, text] : {std::pair{"txtG1", "2"}, {"txtPVCSTA", "10"}, {"txtPVCSTAM", "0"}, {"txtPVCEval", "100"},
-                              {"txtPVTSTA", "14"}, {"txtPVTSTAM", "0"}, {"txtPVTEval", "100"}}) {
+    for (auto [name, text] : {std::pair{"txtG1", "2"},
+                              {"txtPVCSTA", "10"},
+                              {"txtPVCSTAM", "0"},
+                              {"txtPVCEval", "100"},
+                              {"txtPVTSTA", "14"},
+                              {"txtPVTSTAM", "0"},
+                              {"txtPVTEval", "100"}}) {
         TypeInto(w.Field(name), text);
     }
     QTest::keyClick(w.Field("txtPVTEval"), Qt::Key_Return);
@@ -94,7 +99,7 @@ TEST_F(FileCommandsTest, APvcPvtCurveOpensInItsModeWithEveryTextInPlace) {
     ASSERT_NE(opened, nullptr);
     ASSERT_NE(opened, &w);
     EXPECT_TRUE(opened->findChild<QRadioButton*>("optPVCPVT")->isChecked());
-    EXPECT_TRUE(opened->Field("txtLC")->isReadOnly());  // laid out for the mode
+    EXPECT_TRUE(opened->Field("txtLC")->isReadOnly());                                  // laid out for the mode
     EXPECT_EQ(CurveFileBytes(opened->GatherSheet()), CurveFileBytes(w.GatherSheet()));  // every text
     EXPECT_EQ(Title(*opened), "Vertical Curve - English: " + path);
     EXPECT_FALSE(Changed(*opened));
@@ -189,12 +194,11 @@ TEST_P(FailedSaveTest, KeepsThePreviousFileAndReportsOnce) {
     EXPECT_TRUE(Changed(w));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Windows, FailedSaveTest,
-    ::testing::Values(FailedSaveCase{"Titled", true, "Vertical Curve - Metric: %1"},
-                      // The title takes the chosen path before the write.
-                      FailedSaveCase{"Untitled", false, "Vertical Curve - Metric:  %1"}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Windows, FailedSaveTest,
+                         ::testing::Values(FailedSaveCase{"Titled", true, "Vertical Curve - Metric: %1"},
+                                           // The title takes the chosen path before the write.
+                                           FailedSaveCase{"Untitled", false, "Vertical Curve - Metric:  %1"}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(FileCommandsTest, SaveAsIntoAMissingFolderStillTitlesAndListsThePath) {
     frmCrestCurve& w = NewCurve();

@@ -55,8 +55,8 @@ TEST_F(MainWindowTest, MenusReadAsDesignedWithSpiralAndHorizontalGreyed) {
     EXPECT_GT(m.mnuFile->actionGeometry(m.mnuSeparator).height(), 0);
     m.mnuFile->close();
     EXPECT_EQ(EntryTexts(m.mnuCurves), (QStringList{"&Vertical", "&Spiral", "&Horizontal"}));
-    EXPECT_EQ(EntryTexts(m.mnuWindow), (QStringList{"&Cascade", "Tile &Horizontal", "Tile &Vertical",
-                                                    "&Arrange Icons", "-", "Close All"}));
+    EXPECT_EQ(EntryTexts(m.mnuWindow),
+              (QStringList{"&Cascade", "Tile &Horizontal", "Tile &Vertical", "&Arrange Icons", "-", "Close All"}));
     EXPECT_EQ(EntryTexts(m.mnuHelp), (QStringList{"&About Gradewise...", "&Gradewise on the Web "}));
     EXPECT_FALSE(m.mnuSpiral->isEnabled());
     EXPECT_FALSE(m.mnuHorizontalCurve->isEnabled());

@@ -70,15 +70,15 @@ TEST_P(CancelTest, OpensNoWindowAndTakesNoSlot) {
     EXPECT_EQ(main.ActiveCurveWindow()->UnitSystem(), QStringLiteral("English"));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Units, CancelTest,
-    ::testing::Values(CancelWay{"Escape", [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }},
-                      CancelWay{"CancelButton",
-                                [](QDialog& d) {
-                                    QTest::mouseClick(d.findChild<QPushButton*>(QStringLiteral("cmdCancel")),
-                                                      Qt::LeftButton);
-                                }}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Units, CancelTest,
+                         ::testing::Values(CancelWay{"Escape", [](QDialog& d) { QTest::keyClick(&d, Qt::Key_Escape); }},
+                                           CancelWay{"CancelButton",
+                                                     [](QDialog& d) {
+                                                         QTest::mouseClick(
+                                                             d.findChild<QPushButton*>(QStringLiteral("cmdCancel")),
+                                                             Qt::LeftButton);
+                                                     }}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(NewCurveTest, ClosedSlotIsReusedLowestFirstThenTheTablesGrow) {
     NewCurve();

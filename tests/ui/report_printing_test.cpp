@@ -96,9 +96,9 @@ TEST(ClockTextTest, TimeOfDayKeepsTheSecondsAndDropsTheZone) {
         const char* locale;
         const char* text;
     };
-    for (const Row& r : {Row{"C", "13:40:04"}, Row{"en_US", "1:40:04 PM"}, Row{"de_DE", "13:40:04"},
-                         Row{"fr_CA", "13 h 40 min 04 s"}, Row{"zh_CN", "13:40:04"}, Row{"es_ES", "13:40:04"},
-                         Row{"bg_BG", "13:40:04 \u0447."}}) {
+    for (const Row& r :
+         {Row{"C", "13:40:04"}, Row{"en_US", "1:40:04 PM"}, Row{"de_DE", "13:40:04"}, Row{"fr_CA", "13 h 40 min 04 s"},
+          Row{"zh_CN", "13:40:04"}, Row{"es_ES", "13:40:04"}, Row{"bg_BG", "13:40:04 \u0447."}}) {
         EXPECT_EQ(TimeOfDayText(QLocale(r.locale), QTime(13, 40, 4)), QString::fromUtf8(r.text)) << r.locale;
     }
 }
@@ -134,7 +134,8 @@ TEST_F(PrintCommandTest, CopiesArePagesOfTheWholeReportDatedNow) {
     platform.AnswerPrintDialog(3);
     PrintCurveReport(platform, nullptr, &sheet);
     QStringList expected;
-    for (const std::string& line : ReportLines(sheet, "11/23/26", "8:05:00 AM")) expected << QString::fromStdString(line);
+    for (const std::string& line : ReportLines(sheet, "11/23/26", "8:05:00 AM"))
+        expected << QString::fromStdString(line);
     EXPECT_EQ(PrintedPage(1), expected);  // dated in the locale's formats, the time with its seconds
     EXPECT_EQ(PrintedPage(3), expected);
     EXPECT_TRUE(PrintedPage(4).isEmpty());

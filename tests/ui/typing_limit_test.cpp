@@ -43,21 +43,21 @@ TEST_P(TypingLimitTest, KeepsWhatFitsOfTheUsersEdit) {
 
 INSTANTIATE_TEST_SUITE_P(
     Edits, TypingLimitTest,
-    ::testing::Values(
-        EditCase{"TypedPastTheLimit", "", 0, [](QLineEdit& f) { QTest::keyClicks(&f, "1234567"); }, "12345"},
-        EditCase{"PastedAtTheEnd", "12", 2, [](QLineEdit& f) { Paste(f, "987654321"); }, "12987"},
-        EditCase{"PastedInTheMiddle", "12", 1, [](QLineEdit& f) { Paste(f, "987654321"); }, "19872"},
-        EditCase{"PastedOverASelection", "12345", 1,
-                 [](QLineEdit& f) {
-                     f.setSelection(1, 3);
-                     Paste(f, "abcdef");
-                 },
-                 "1abc5"},
-        EditCase{"ProgramTextIsNeverCut", "", 0, [](QLineEdit& f) { f.setText("100001"); }, "100001"},
-        EditCase{"NothingAddedToALongerProgramText", "100001", 6, [](QLineEdit& f) { QTest::keyClicks(&f, "9"); },
-                 "100001"},
-        EditCase{"DeletingFromALongerProgramText", "100001", 6,
-                 [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Backspace); }, "10000"}),
+    ::testing::Values(EditCase{"TypedPastTheLimit", "", 0, [](QLineEdit& f) { QTest::keyClicks(&f, "1234567"); },
+                               "12345"},
+                      EditCase{"PastedAtTheEnd", "12", 2, [](QLineEdit& f) { Paste(f, "987654321"); }, "12987"},
+                      EditCase{"PastedInTheMiddle", "12", 1, [](QLineEdit& f) { Paste(f, "987654321"); }, "19872"},
+                      EditCase{"PastedOverASelection", "12345", 1,
+                               [](QLineEdit& f) {
+                                   f.setSelection(1, 3);
+                                   Paste(f, "abcdef");
+                               },
+                               "1abc5"},
+                      EditCase{"ProgramTextIsNeverCut", "", 0, [](QLineEdit& f) { f.setText("100001"); }, "100001"},
+                      EditCase{"NothingAddedToALongerProgramText", "100001", 6,
+                               [](QLineEdit& f) { QTest::keyClicks(&f, "9"); }, "100001"},
+                      EditCase{"DeletingFromALongerProgramText", "100001", 6,
+                               [](QLineEdit& f) { QTest::keyClick(&f, Qt::Key_Backspace); }, "10000"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

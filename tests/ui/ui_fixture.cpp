@@ -17,13 +17,12 @@ void UiTest::SetUp() {
 }
 
 void UiTest::TearDown() {
-    EXPECT_TRUE(m_platform.Unused().isEmpty()) << "answers never asked for: "
-                                               << m_platform.Unused().join(QStringLiteral(", ")).toStdString();
+    EXPECT_TRUE(m_platform.Unused().isEmpty())
+        << "answers never asked for: " << m_platform.Unused().join(QStringLiteral(", ")).toStdString();
     m_main.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     for (QWidget* w : QApplication::topLevelWidgets()) {
-        ADD_FAILURE() << "window left over: " << w->metaObject()->className() << " "
-                      << w->objectName().toStdString();
+        ADD_FAILURE() << "window left over: " << w->metaObject()->className() << " " << w->objectName().toStdString();
         delete w;
     }
     // The program's own settings file is the only thing it may keep per user.
@@ -58,7 +57,8 @@ frmMain& UiTest::RestartMain() {
 frmCrestCurve& UiTest::NewCurve(bool metric) {
     frmMain& main = Main();
     m_platform.AnswerDialog([metric](QDialog& dialog) {
-        auto* option = dialog.findChild<QRadioButton*>(metric ? QStringLiteral("optMetric") : QStringLiteral("optEnglish"));
+        auto* option =
+            dialog.findChild<QRadioButton*>(metric ? QStringLiteral("optMetric") : QStringLiteral("optEnglish"));
         QTest::mouseClick(option, Qt::LeftButton);
         QTest::keyClick(&dialog, Qt::Key_Return);
     });

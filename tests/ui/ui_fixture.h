@@ -130,8 +130,8 @@ inline QByteArray EmptyCurveBytes(const char* units) {
         for (int i = 0; i < n; ++i) line += i ? ",\"\"" : "\"\"";
         return line + "\r\n";
     };
-    return "\"\",\"" + QByteArray(units) + "\",,,,\"\"\r\n" + empties(7) + empties(6) +
-           "#TRUE#,#FALSE#,\"\",\"\"\r\n" + empties(20) + empties(20) + empties(20) + empties(3);
+    return "\"\",\"" + QByteArray(units) + "\",,,,\"\"\r\n" + empties(7) + empties(6) + "#TRUE#,#FALSE#,\"\",\"\"\r\n" +
+           empties(20) + empties(20) + empties(20) + empties(3);
 }
 
 }  // namespace gw::test

@@ -18,7 +18,6 @@ namespace gw {
 QLabel& AddLabel(QWidget& window, std::string_view name, const QString& text, const QRect& place);
 QPushButton& AddButton(QWidget& window, std::string_view name, const QString& caption, const QRect& place);
 // A text field of a window's table, with its tooltip and typing limit (0 for none).
-QLineEdit& AddTextField(QWidget& window, std::string_view name, const Rect& place, std::string_view tooltip,
-                        int limit);
+QLineEdit& AddTextField(QWidget& window, std::string_view name, const Rect& place, std::string_view tooltip, int limit);
 
 }  // namespace gw

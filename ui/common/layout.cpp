@@ -17,9 +17,9 @@ void SetUpFixedDialog(QDialog& dialog, const char* objectName, const QString& ti
     dialog.setWindowTitle(title);
     dialog.setFixedSize(size);
     dialog.setFont(DialogFont());
-    dialog.setWindowFlags(Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint |
-                          (closeBox == CloseBox::Shown ? Qt::WindowCloseButtonHint
-                                                       : Qt::CustomizeWindowHint | Qt::WindowTitleHint));
+    dialog.setWindowFlags(
+        Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint |
+        (closeBox == CloseBox::Shown ? Qt::WindowCloseButtonHint : Qt::CustomizeWindowHint | Qt::WindowTitleHint));
 }
 
 }  // namespace gw

@@ -37,7 +37,8 @@ protected:
 
 }  // namespace
 
-LeaveChecks::LeaveChecks(Platform& platform, QWidget& window) : QObject(&window), m_platform(platform), m_window(window) {}
+LeaveChecks::LeaveChecks(Platform& platform, QWidget& window)
+    : QObject(&window), m_platform(platform), m_window(window) {}
 
 LeaveChecks::~LeaveChecks() { delete m_inputHold; }
 

@@ -8,7 +8,8 @@ namespace {
 
 class TypingLimiter final : public QObject {
 public:
-    TypingLimiter(QLineEdit& field, int limit) : QObject(&field), m_field(field), m_limit(limit), m_before(field.text()) {
+    TypingLimiter(QLineEdit& field, int limit)
+        : QObject(&field), m_field(field), m_limit(limit), m_before(field.text()) {
         // textEdited comes for the user's changes only, before textChanged, which comes
         // for every change: until then the text before the edit is still at hand.
         connect(&field, &QLineEdit::textEdited, this, &TypingLimiter::Enforce);

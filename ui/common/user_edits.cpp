@@ -22,17 +22,12 @@ protected:
     // Only watches: a key held back by another filter never reaches the field anyway.
     bool eventFilter(QObject*, QEvent* event) override {
         switch (event->type()) {
-        case QEvent::KeyPress:
-            m_deleteKey = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete;
-            break;
-        case QEvent::KeyRelease:
-        case QEvent::ContextMenu:
-        case QEvent::MouseButtonPress:
-        case QEvent::FocusOut:
-            m_deleteKey = false;
-            break;
-        default:
-            break;
+            case QEvent::KeyPress: m_deleteKey = static_cast<QKeyEvent*>(event)->key() == Qt::Key_Delete; break;
+            case QEvent::KeyRelease:
+            case QEvent::ContextMenu:
+            case QEvent::MouseButtonPress:
+            case QEvent::FocusOut: m_deleteKey = false; break;
+            default: break;
         }
         return false;
     }

@@ -15,7 +15,7 @@ class Platform;
 class frmCrestCurve;
 
 struct WindowSlot {
-    int number = 0;  // the Tag of the slot's windows
+    int number = 0;                       // the Tag of the slot's windows
     QPointer<frmCrestCurve> curveWindow;  // none while the slot is free
     // Made with the slot and kept, hidden or shown, for the whole run: the curve's
     // elevation rows and offsets are its fields.

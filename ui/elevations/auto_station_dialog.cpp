@@ -24,8 +24,10 @@ struct Caption {
 };
 
 constexpr Caption kCaptions[] = {
-    {"lblPoints", "Increments on curve:", {16, 80, 105, 17}}, {"lblBeginSTA", "Beginning Station:", {8, 120, 89, 17}},
-    {"lblplus", "+", {144, 120, 9, 17}},                      {"lblIncrement", "Increment :", {40, 152, 57, 17}},
+    {"lblPoints", "Increments on curve:", {16, 80, 105, 17}},
+    {"lblBeginSTA", "Beginning Station:", {8, 120, 89, 17}},
+    {"lblplus", "+", {144, 120, 9, 17}},
+    {"lblIncrement", "Increment :", {40, 152, 57, 17}},
     {"lblplus1", "+", {144, 152, 9, 17}},
 };
 

@@ -32,11 +32,16 @@ struct Caption {
 };
 
 constexpr Caption kCaptions[] = {
-    {"lblPVC", "PVC Station:", {40, 18, 0, 0}},  {"", "+", {144, 16, 0, 0}},
-    {"lblPVT", "PVT Station:", {255, 18, 0, 0}}, {"", "+", {360, 16, 0, 0}},
-    {"lblVOffset", "V-Offset", {41, 59, 0, 0}},  {"lblHOffset", "H-Offset", {193, 59, 0, 0}},
-    {"", "&", {321, 59, 0, 0}},                  {"lblXSlope", "X-Slope", {337, 59, 0, 0}},
-    {"", "%", {438, 59, 0, 0}},                  {"", "Enter TGL Stations", {16, 96, 0, 0}},
+    {"lblPVC", "PVC Station:", {40, 18, 0, 0}},
+    {"", "+", {144, 16, 0, 0}},
+    {"lblPVT", "PVT Station:", {255, 18, 0, 0}},
+    {"", "+", {360, 16, 0, 0}},
+    {"lblVOffset", "V-Offset", {41, 59, 0, 0}},
+    {"lblHOffset", "H-Offset", {193, 59, 0, 0}},
+    {"", "&", {321, 59, 0, 0}},
+    {"lblXSlope", "X-Slope", {337, 59, 0, 0}},
+    {"", "%", {438, 59, 0, 0}},
+    {"", "Enter TGL Stations", {16, 96, 0, 0}},
     {"", "Enter TGL Stations", {272, 96, 0, 0}},
 };
 // Beside each row's plus part and elevation, as in row 0.
@@ -118,8 +123,8 @@ void ElevationsWindow::WatchRowChecks() {
         m_checks->Watch(*c.edit, [this, kind, row = c.row](QLineEdit&) {
             std::vector<QString> out;
             const CurveSheet sheet = Gather();
-            for (std::string_view m : kind == ElevationFieldKind::RowStation ? CheckRowWholeStation(sheet, row)
-                                                                              : CheckRowPlus(sheet, row)) {
+            for (std::string_view m :
+                 kind == ElevationFieldKind::RowStation ? CheckRowWholeStation(sheet, row) : CheckRowPlus(sheet, row)) {
                 out.push_back(ToQString(m));
             }
             return out;
@@ -134,7 +139,9 @@ QLineEdit* ElevationsWindow::ControlOf(const ElevationField& field, int row) con
     throw std::invalid_argument("no field " + std::string(field.name) + " in row " + std::to_string(row));
 }
 
-QLineEdit* ElevationsWindow::FirstStation() const { return ControlOf(RowOf(kElevationFields, &ElevationRow::txtTOTSTA1), 0); }
+QLineEdit* ElevationsWindow::FirstStation() const {
+    return ControlOf(RowOf(kElevationFields, &ElevationRow::txtTOTSTA1), 0);
+}
 
 QLineEdit* ElevationsWindow::Field(std::string_view name) const {
     const ElevationField& field = ElevationFieldNamed(name);
