@@ -1,7 +1,7 @@
 #pragma once
 // What the fuzz targets of gradewise-cli's commands share: an input file kept in
 // memory under a name the tool opens like any other, the tool run in-process through
-// its own entry, and a failed property reported with what the run printed.
+// its own entry, and the properties every run must hold.
 
 #include <cstdio>
 #include <cstdlib>
@@ -12,6 +12,8 @@
 #include <vector>
 
 #include "cli/cli.h"
+#include "core/curve_file.h"
+#include "fuzz/json_check.h"
 
 namespace gw::fuzz {
 
@@ -73,6 +75,45 @@ inline bool HasExponent(const std::string& text) {
         if ((text[i] == 'e' || text[i] == 'E') && digitBefore && sign && digitAfter) return true;
     }
     return false;
+}
+
+enum class Output { Text, Drawing, Check, Json, CurveFile };
+
+// What every run must hold: a documented exit status; a refusal (1, 2) with a message
+// and no output, a row off the curve (3) with its message, anything else with output; no number printed as "nan" or
+// "inf"; a drawing whole, under 512 KiB and with no coordinate left empty; a curve file that reads back to the same
+// bytes; well-formed JSON; a check ending in its verdict; and no number of a text in exponent form.
+inline void CheckRun(const CommandRun& run, const MemoryFile& file, Output kind) {
+    const std::string& out = run.out;
+    const auto fail = [&](const char* what) { Fail(what, run, file); };
+    if (run.status < 0 || run.status > 5) fail("an exit status nobody documented");
+    if (run.status == 3 && run.err.empty()) fail("a row off the curve without its message");
+    if (run.status == 1 || run.status == 2) {
+        if (run.err.empty() || !out.empty()) fail("a refusal without a message, or with output");
+        return;
+    }
+    if (out.empty()) fail("success without output");
+    if (out.find("nan") != std::string::npos || out.find("inf") != std::string::npos) fail("not a number printed");
+    if (kind == Output::Drawing) {
+        if (out.find("=\"\"") != std::string::npos) fail("an empty coordinate");
+        if (out.size() > 512 * 1024) fail("an unbounded drawing");
+        if (out.rfind("<svg ", 0) != 0 || out.size() < 7 || out.substr(out.size() - 7) != "</svg>\n") {
+            fail("a drawing cut short");
+        }
+        return;
+    }
+    if (kind == Output::CurveFile) {
+        if (CurveFileBytes(ParseCurveFile(out)) != out) fail("a curve file that reads back otherwise");
+        return;
+    }
+    if (HasExponent(out)) fail("a number in exponent form");
+    if (kind == Output::Json && !JsonCheck::Valid(out)) fail("JSON that is not well-formed");
+    if (kind == Output::Check) {
+        const std::string last = out.substr(out.rfind('\n', out.size() - 2) + 1);
+        if (last.rfind("Long enough: ", 0) != 0 && last.rfind("Too short: ", 0) != 0) {
+            fail("a check without its verdict");
+        }
+    }
 }
 
 }  // namespace gw::fuzz

@@ -1,42 +1,204 @@
-// Each command of the command-line tool: the curve file, JSON, table, plot or verdict
-// it writes, the dialogs' messages on stderr and the documented exit statuses. The
-// numbers are the core's and tested there.
+// gradewise-cli's command line: the words it takes, the messages and exit statuses it
+// gives, its help, and where its output goes: an output file written whole or not at
+// all, standard output checked to its last byte, the PDF helper it runs.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
 #include <functional>
-#include <sstream>
-#include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
 
-#include "cli/cli.h"
 #include "cli/command_table.h"
-#include "tests/cli/run_cli.h"
 #include "core/curve_file.h"
+#include "tests/cli/run_cli.h"
 #include "tests/core/sheet_builders.h"
 #include "tests/disk_faults.h"
-#include "core/curve_sheet.h"
-#include "core/curve_solver.h"
 
 namespace gw::cli::test {
 namespace {
 
-// The exit status of the real program run with `args`.
-int ProcessStatus(const std::string& args) {
-    const int raw = std::system((std::string(GW_CLI_PATH) + " " + args + " >/dev/null 2>&1").c_str());
-    return WIFEXITED(raw) ? WEXITSTATUS(raw) : -1;
+namespace fs = std::filesystem;
+
+// Bad arguments and unreadable files: exit 2 with the reason and nothing on standard
+// output. @F is a curve file, @S a CSV profile, @D a folder.
+TEST(CommandLineTest, BadArgumentsExitTwoWithTheirMessage) {
+    Folder folder;
+    const std::string copies = "--copies takes a whole number from 1 to 99";
+    const std::string oneWay =
+        "design takes one of --k K, --through STA ELEV, or --under STA with --underside U and --clearance C";
+    const std::string pviAtEnd = "a curve goes at a PVI between the ends of the profile: PVI 2 to PVI 2";
+    const std::string every = "--every takes an interval greater than 0 as WHOLE+PLUS, for example 0+50";
+    const std::string profileName = "--profile picks a ProfAlign of a LandXML file; '";
+    const std::pair<std::string, std::string> places[] = {
+        {"@F", Example("english-crest.gwf")}, {"@S", folder.Put("sag.csv", kSagCsv)}, {"@D", folder.Path()}};
+    const auto expand = [&](std::string text) {
+        for (const auto& [token, path] : places) {
+            for (size_t at; (at = text.find(token)) != std::string::npos;) text.replace(at, token.size(), path);
+        }
+        return text;
+    };
+    struct Case {
+        const char* name;
+        std::string line, message;
+    } cases[] = {
+        {"NoCommand", "", "no command given"},
+        {"UnknownCommand", "--version @F", "unknown command '--version'"},
+        {"NoFile", "solve", "solve needs a curve FILE"},
+        {"TwoFiles", "solve @F b.gwf", "more than one FILE given ('@F' and 'b.gwf')"},
+        {"UnknownOption", "plot @F --csv", "unknown option '--csv' for plot"},
+        {"NoValue", "solve @F -o", "-o needs a value: -o OUT"},
+        {"OneOfTwoValues", "design @S --pvi 2 --through 51+00", "--through needs 2 values: --through STA ELEV"},
+        {"NoRequiredOption", "table @F", "table needs --every WHOLE+PLUS, for example --every 0+50"},
+        {"HelpWordAsAValue", "check @F --speed -h",
+         "--speed takes a design speed greater than 0 (mph for a profile in feet, km/h in metres)"},
+        {"CopiesWithoutPdf", "report @F --copies 2", "--copies goes with --pdf"},
+        {"NoCopies", "report @F --pdf @D/r.pdf --copies 0", copies},
+        {"HundredCopies", "report @F --pdf @D/r.pdf --copies 100", copies},
+        {"CopiesNotDigits", "report @F --pdf @D/r.pdf --copies 9x", copies},
+        {"PointsAndSpacing", "autostation @F --points 3 --begin 1+0 --increment 0+5",
+         "give either --points or --begin with --increment, not both"},
+        {"BeginWithoutIncrement", "autostation @F --begin 10+0",
+         "autostation needs --points N, or --begin WHOLE+PLUS with --increment WHOLE+PLUS"},
+        {"BeginNotAStation", "autostation @F --begin 10 --increment 0+50",
+         "--begin takes a station as WHOLE+PLUS, for example 10+0"},
+        {"IncrementNotAStation", "autostation @F --begin 10+0 --increment 50",
+         "--increment takes a station as WHOLE+PLUS, for example 0+50"},
+        {"EveryZero", "table @S --every 0+0", every},
+        {"EveryPlusTooLong", "table @S --every 1+150", every + " (the plus part of '1+150' must be less than 100)"},
+        {"EveryTooManyRows", "table @F --every 0+0.0001",
+         "--every 0+0.0001 gives more than 1000000 rows over 400.0 ft; choose a longer interval"},
+        {"ProfileNameOfACsv", "table @S --every 1+00 --profile FG", profileName + "@S' is a CSV profile"},
+        {"ProfileNameOfACurveFile", "plot @F --profile FG", profileName + "@F' is a curve file"},
+        {"SpeedOffTheTable", "check @S --speed 90",
+         "A design speed of 90.0 mph is outside the design table (15.0 to 80.0 mph)."},
+        {"NoHeight", "check @S --speed 50 --eye 0", "--eye takes a height greater than 0"},
+        {"ClearanceUnderTheLights", "check @S --speed 50 --clearance 4",
+         "The clearance must be more than 5.0, the mean height of the truck driver's eye and the taillight."},
+        {"DesignNoWay", "design @S --pvi 2", oneWay},
+        {"DesignTwoWays", "design @S --pvi 2 --k 50 --through 51+00 440", oneWay},
+        {"DesignKZero", "design @S --pvi 2 --k 0", "--k takes a K greater than 0"},
+        {"DesignNotAStation", "design @S --pvi 2 --through 51+00x 440",
+         "--through: '51+00x' is not a station as WHOLE+PLUS"},
+        {"OffsetWithoutSlope", "design @S --pvi 2 --through 51+00 440 --hoffset 12", "--hoffset goes with --xslope"},
+        {"SlopeWithoutOffset", "design @S --pvi 2 --through 51+00 440 --xslope 2", "--xslope goes with --hoffset"},
+        {"OffsetWithoutPoint", "design @S --pvi 2 --k 50 --voffset 1", "--voffset goes with --through"},
+        {"UnderWithoutClearance", "design @S --pvi 2 --under 51+00 --underside 450", "--under goes with --clearance"},
+        {"UndersideWithoutUnder", "design @S --pvi 2 --k 50 --underside 450", "--underside goes with --under"},
+        {"PviZero", "design @S --pvi 0 --k 50",
+         "--pvi takes the number of a PVI as the profile command lists it, for example 2"},
+        {"FirstPvi", "design @S --pvi 1 --k 50", pviAtEnd},
+        {"LastPvi", "design @S --pvi 3 --k 50", pviAtEnd},
+        {"ImportWithoutCurve", "import @S --curve 3", "PVI 3 (line 4) has no vertical curve; curves are at PVI 2"},
+        {"ImportPastTheEnd", "import @S --curve 6", "the profile has PVI 1 to PVI 3; curves are at PVI 2"},
+        {"NoCurveFile", "solve @D/none.gwf", "cannot read '@D/none.gwf': No such file or directory"},
+        {"NoProfileFile", "profile @D", "cannot read '@D': Is a directory"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Result r = RunCli(expand(c.line));
+        EXPECT_EQ(r.status, kUsage);
+        EXPECT_EQ(r.err.substr(0, r.err.find('\n')), "gradewise-cli: " + expand(c.message));
+        EXPECT_EQ(r.out, "");
+    }
+    // A bad argument says where help is; a refusal of what they ask does not.
+    EXPECT_EQ(RunCli("").err, "gradewise-cli: no command given\nTry 'gradewise-cli --help'.\n");
+    EXPECT_EQ(RunCli("solve").err, "gradewise-cli: solve needs a curve FILE\nTry 'gradewise-cli solve --help'.\n");
+    EXPECT_EQ(RunCli(expand("design @S --pvi 1 --k 50")).err, "gradewise-cli: " + pviAtEnd + "\n");
 }
 
-// The real program run with `args`, its standard output going to `output` (created
-// when missing); `childSetUp` runs in the child before the program starts.
+// A refusal writes nothing, not even an empty output file; a row off the curve still
+// writes the curve as far as it was computed.
+TEST(CommandLineTest, RefusalsExitWithTheirStatusAndReason) {
+    Folder folder;
+    const auto curve = [&](const char* name, const CurveSheet& sheet) {
+        return folder.Put(name, CurveFileBytes(sheet));
+    };
+    const auto crest = [](const char* sta, const char* stam, const char* lc) {
+        return gw::test::PviSheet("English", sta, stam, "104", "2", "-2", lc);
+    };
+    CurveSheet offCurve = ParseCurveFile(Read(Example("english-crest.gwf")));
+    offCurve.elevations.rows[1] = {"15", "0", ""};
+    const std::string out = folder.File("out");
+    const std::string backwards = folder.Put("back.csv", "Station (ft),Elevation\n10+00,100\n12+00,104\n11+00,102\n");
+    const std::string beyond = "the curve cannot be drawn: at stations near ";
+    struct Case {
+        const char* name;
+        std::string line;  // -o OUT follows
+        int status;
+        std::string err;
+    } cases[] = {
+        {"CalcRefuses", "solve " + curve("a.gwf", crest("", "0", "400")), kRefused,
+         "PVI Station needs to be entered.\n"},
+        {"TheDialogRefuses", "autostation " + Example("english-crest.gwf") + " --points 25", kRefused,
+         "Points can not be more than 20.\n"},
+        {"ARowOffTheCurve", "solve --elevations " + curve("b.gwf", offCurve), kStationOffCurve,
+         "Top of Slab Station must be between PVC and PVT stations.\n"},
+        {"AProfileRefused", "table " + backwards + " --every 1+00", kRefused,
+         "gradewise-cli: " + backwards +
+             ": PVI 3 (line 4) at 11+00.0 is not past PVI 2 (line 3) at 12+00.0: stations must increase along the "
+             "profile.\n"},
+        {"NoLength", "plot " + curve("c.gwf", crest("12", "0", "0")), kRefused,
+         "gradewise-cli: plot needs a length of curve greater than 0\n"},
+        {"StationsTooFarToDraw", "plot " + curve("d.gwf", crest("1000000000000000", "0", "400")), kRefused,
+         "gradewise-cli: " + beyond + "999999999999998+00.0 a length of curve of 400 cannot be drawn to scale\n"},
+        {"LengthTooShortToDraw", "plot " + curve("e.gwf", crest("12", "0", "1e-12")), kRefused,
+         "gradewise-cli: " + beyond + "12+00.0 a length of curve of 1e-12 cannot be drawn to scale\n"},
+        {"PlusTooLongToTabulate", "table " + curve("f.gwf", crest("12", "1e22", "400")) + " --every 0+50", kRefused,
+         "gradewise-cli: at stations near 100000000000000000000+00.0 an interval of 50.0 is too small to tell the "
+         "stations apart\n"},
+        {"LengthTooShortToTabulate", "table " + curve("g.gwf", crest("12", "0", "1e-310")) + " --every 0+50", kRefused,
+         "gradewise-cli: the elevations of this curve cannot be computed: a length of curve of 1e-310 is too short "
+         "for a change of grade of 4.0 %\n"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Result r = RunCli(c.line + " -o " + out);
+        EXPECT_EQ(r.status, c.status);
+        EXPECT_EQ(r.err, c.err);
+        EXPECT_EQ(r.out, "");
+        EXPECT_EQ(fs::exists(out), c.status == kStationOffCurve);
+        if (c.status == kStationOffCurve) {
+            EXPECT_EQ(ParseCurveFile(Read(out)).elevations.rows[0].txtTotalTopSlab1, "101.135");
+        }
+        fs::remove(out);
+    }
+}
+
+TEST(CommandLineTest, HelpAndVersion) {
+    EXPECT_EQ(RunCli("--version").out, "gradewise-cli 4.3.1\n");
+    const Result general = RunCli("-h");
+    EXPECT_EQ(general.status, kDone);
+    for (const char* lines : {
+             "\n  gradewise-cli autostation FILE (--points N | --begin WHOLE+PLUS --increment WHOLE+PLUS)\n"
+             "                            [--json] [-o OUT]\n",
+             "\n  solve        solve the curve; --elevations also recomputes the elevation rows\n"
+             "  autostation  solve, then lay out the elevation rows by a number of points from\n"
+             "               PVC to PVT (--points, at most 20) or from a beginning station in\n",
+         }) {
+        EXPECT_NE(general.out.find(lines), std::string::npos) << lines;
+    }
+    for (const CommandRow& row : Commands()) {
+        const std::string name = row.name;
+        const Result own = RunCli({name, "--help"});
+        EXPECT_EQ(own.status, kDone) << name;
+        EXPECT_EQ(own.out.rfind("Usage: gradewise-cli " + name + " FILE", 0), 0u) << name;
+        EXPECT_NE(general.out.find("\n  gradewise-cli " + name + " FILE"), std::string::npos) << name;
+    }
+    EXPECT_EQ(RunCli({"report", Example("english-crest.gwf"), "-h"}).out,
+              "Usage: gradewise-cli report FILE [--pdf OUT.pdf [--copies N]]\n\n"
+              "Prints the lines of the curve report of FILE, dated now, or writes the pages\n"
+              "File > Print prints to a PDF file.\n\n"
+              "  --pdf OUT.pdf   write the printed pages to OUT.pdf\n"
+              "  --copies N      that many copies, from 1 to 99, one page each (default 1)\n\n"
+              "Exit status: 0 done; 2 bad arguments, an unreadable file or a PDF that could not\n"
+              "be written (an existing one is then left as it was).\n");
+}
+
+// The real program, standard output going to `output` (created when missing);
+// `childSetUp` runs in the child before the program starts.
 Result RunProgram(const std::vector<std::string>& args, const std::string& output,
                   const std::function<void()>& childSetUp = {}) {
     int errPipe[2];
@@ -65,149 +227,25 @@ Result RunProgram(const std::vector<std::string>& args, const std::string& outpu
     return {WIFEXITED(raw) ? WEXITSTATUS(raw) : 128 + WTERMSIG(raw), "", err};
 }
 
-std::string Example(const char* name) { return std::string(GW_EXAMPLES_DIR) + "/" + name; }
-
-std::string Read(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
-class CliTest : public ::testing::Test {
-protected:
-    void SetUp() override {
-        const auto* info = ::testing::UnitTest::GetInstance()->current_test_info();
-        m_dir = std::filesystem::temp_directory_path() /
-                ("gw_cli_" + std::to_string(::getpid()) + "_" + info->test_suite_name() + "_" + info->name());
-        std::filesystem::create_directories(m_dir);
-    }
-    void TearDown() override { std::filesystem::remove_all(m_dir); }
-
-    std::string Path(const std::string& name) const { return (m_dir / name).string(); }
-
-    // The sheet written as a curve file of its own.
-    std::string Write(const CurveSheet& sheet) {
-        const std::string path = Path("curve" + std::to_string(m_files++) + ".gwf");
-        std::ofstream(path, std::ios::binary) << CurveFileBytes(sheet);
-        return path;
-    }
-    // A curve in the PVI mode, written as a curve file.
-    std::string Pvi(const char* units, const char* sta, const char* stam, const char* elev, const char* g1,
-                    const char* g2, const char* lc) {
-        return Write(gw::test::PviSheet(units, sta, stam, elev, g1, g2, lc));
-    }
-    // PVI 12+00 at 104, +2 % to -2 %, 400 ft: PVC 10+00 at 100, PVT 14+00.
-    std::string EnglishCrest(const char* stam = "0") { return Pvi("English", "12", stam, "104", "2", "-2", "400"); }
-
-    std::filesystem::path m_dir;
-    int m_files = 0;
-};
-
-TEST_F(CliTest, SolveWritesTheCurveFileAsSaveWouldOrItsJson) {
-    const std::string file = EnglishCrest();
-    Result r = RunCli({"solve", file});
-    ASSERT_EQ(r.status, kDone) << r.err;
-    CurveSheet solved = ParseCurveFile(r.out);
-    EXPECT_EQ(solved.txtPVCSTA, "10");
-    EXPECT_EQ(solved.txtSD, "364.5545");
-    EXPECT_EQ(r.out, CurveFileBytes(solved));  // eight CR LF lines
-
-    r = RunCli({"solve", "--json", file});
-    ASSERT_EQ(r.status, kDone) << r.err;
-    for (const char* piece : {"\"txtTPSTAM\": \"0.0\"", "\"optPVCPVT\": false", "\"txtTOTSTA1\": [\"\", \"\""}) {
-        EXPECT_NE(r.out.find(piece), std::string::npos) << piece;
-    }
-}
-
-TEST_F(CliTest, ARefusedCheckPrintsItsMessageOnlyOnStderr) {
-    Result r = RunCli({"solve", EnglishCrest("")});
-    EXPECT_EQ(r.status, kRefused);
-    EXPECT_EQ(r.err, "PVI Station needs to be entered.\n");
-    EXPECT_EQ(r.out, "");
-}
-
-TEST_F(CliTest, ElevationsOffTheCurveStillWriteTheCurve) {
-    CurveSheet s = ParseCurveFile(Read(EnglishCrest()));
-    ASSERT_FALSE(Calculate(s));  // solved, so the next Calc moves no station and keeps the rows
-    s.elevations.rows[0] = {"11", "0", ""};
-    s.elevations.rows[1] = {"15", "0", ""};
-    Result r = RunCli({"solve", "--elevations", Write(s)});
-    EXPECT_EQ(r.status, kStationOffCurve);
-    EXPECT_EQ(r.err, "Top of Slab Station must be between PVC and PVT stations.\n");
-    EXPECT_EQ(ParseCurveFile(r.out).elevations.rows[0].txtTotalTopSlab1, "101.5");
-}
-
-TEST_F(CliTest, AutostationByPointsAndBySpacing) {
-    const std::string file = EnglishCrest();
-    Result points = RunCli({"autostation", file, "--points", "10", "--json"});
-    ASSERT_EQ(points.status, kDone) << points.err;
-    EXPECT_NE(points.out.find("\"44.4444\""), std::string::npos);
-
-    const std::string out = Path("b.gwf");
-    Result spacing = RunCli({"autostation", file, "--begin", "10+0", "--increment", "0+50", "-o", out});
-    ASSERT_EQ(spacing.status, kDone) << spacing.err;
-    EXPECT_EQ(spacing.out, "");
-    CurveSheet back = ParseCurveFile(Read(out));
-    EXPECT_EQ(back.elevations.rows[8].txtTOTSTA1, "14");
-    EXPECT_EQ(back.elevations.rows[8].txtTotalTopSlab1, "100.0");
-    EXPECT_EQ(back.elevations.rows[9].txtTOTSTA1, "");
-    const Result refused = RunCli({"autostation", file, "--points", "25"});
-    EXPECT_EQ(refused.status, kRefused);
-    EXPECT_EQ(refused.err, "Points can not be more than 20.\n");
-}
-
-TEST_F(CliTest, UsageErrorsAndUnreadableFilesExitTwoWithAMessageOnly) {
-    const std::string file = EnglishCrest();
-    const std::vector<std::vector<std::string>> bad = {
-        {},
-        {"frobnicate", file},
-        {"solve", file, "--bogus"},
-        {"autostation", file, "--points", "3", "--begin", "1+0", "--increment", "0+5"},
-        {"solve", m_dir.string()},
-        {"solve", file, "-o", Path("no/such/dir.gwf")},
-        {"table", file, "--every", "0+0"},
-        {"table", file, "--every", "0+0.0001"},  // 400 ft / 0.0001 ft: 4000000 rows
-        {"plot", file, "--csv"},
-        {"check", file, "--speed", "fast"},
-        {"report", file, "--pdf", Path("none.pdf"), "--copies", "0"},  // once a 0-byte "PDF"
-        {"check", file, "--speed", "-h"},                              // a value, not a call for help
-    };
-    for (const auto& args : bad) {
-        Result r = RunCli(args);
-        EXPECT_EQ(r.status, kUsage) << (args.empty() ? "(none)" : args[0]) << " " << r.err;
-        EXPECT_NE(r.err, "");
-        EXPECT_EQ(r.out, "");
-    }
-    EXPECT_FALSE(std::filesystem::exists(Path("none.pdf")));
-    EXPECT_NE(RunCli({"solve", Path("missing.gwf")}).err.find("No such file"), std::string::npos);
-    EXPECT_EQ(RunCli({"check", file, "--speed", "81"}).err,
-              "gradewise-cli: A design speed of 81.0 mph is outside the design table (15.0 to 80.0 mph).\n");
-    EXPECT_EQ(RunCli({"table", file}).err,
-              "gradewise-cli: table needs --every WHOLE+PLUS, for example --every 0+50\n"
-              "Try 'gradewise-cli table --help'.\n");
-}
-
 // Output that cannot be written is an error with the system's reason and exit 2, and
-// an output file is left byte for byte as it was, with no fragment or temporary file
-// beside it: onto a full disk, past a file-size limit (once a silent death by
-// SIGXFSZ), and to standard output.
-TEST_F(CliTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
-    ::setenv("GRADEWISE_PDF", GW_PDF_PATH, 1);
-    gw::test::FullDisk disk(m_dir / "disk");
-    const std::string full = (disk.Folder() / "out").string();
-    const std::string limited = Path("limited");
+// an output file is left byte for byte as it was, with nothing beside it: onto a full
+// disk, past a file-size limit (once a silent death by SIGXFSZ) and to standard output.
+TEST(CommandLineTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
+    Folder folder;
+    gw::test::FullDisk disk(folder.Path() / "disk");
+    const std::string full = (disk.Folder() / "out").string(), limited = folder.File("limited");
     const std::string previous = "the previous output\n";
-    for (const std::string& folder : {full, limited}) {
-        std::filesystem::create_directories(folder);
-        for (const char* name : {"table.txt", "report.pdf"}) std::ofstream(folder + "/" + name) << previous;
+    for (const std::string& f : {full, limited}) {
+        fs::create_directories(f);
+        for (const char* name : {"/table.txt", "/report.pdf"}) std::ofstream(f + name) << previous;
     }
     disk.Fill();
     const std::string crest = Example("english-crest.gwf");
-    const std::function<void()> fullDisk = [&disk] { disk.WritesFailInChild(); };
     const std::function<void()> sizeLimit = [] {
-        rlimit small{64, 64};
+        const rlimit small{64, 64};
         ::setrlimit(RLIMIT_FSIZE, &small);
     };
-    const std::string noSpace = std::strerror(disk.Errno());
+    const std::string tooLarge = std::strerror(EFBIG);
     struct Case {
         const char* name;
         std::string folder;  // where the outputs are
@@ -216,257 +254,95 @@ TEST_F(CliTest, OutputThatCannotBeWrittenIsReportedAndLosesNothing) {
         std::function<void()> setUp;
         std::string message;
     } cases[] = {
-        {"OverAFileOnAFullDisk",
+        {"OntoAFullDisk", full, Words("table " + crest + " --every 0+1 -o " + full + "/table.txt"), "/dev/null",
+         [&disk] { disk.WritesFailInChild(); },
+         "cannot write '" + full + "/table.txt': " + std::strerror(disk.Errno())},
+        {"PastASizeLimit", limited, Words("table " + crest + " --every 0+1 -o " + limited + "/table.txt"), "/dev/null",
+         sizeLimit, "cannot write '" + limited + "/table.txt': " + tooLarge},
+        {"APdfPastASizeLimit", limited, Words("report " + crest + " --pdf " + limited + "/report.pdf"), "/dev/null",
+         sizeLimit, "cannot write '" + limited + "/report.pdf': " + tooLarge},
+        {"StandardOutput",
          full,
-         {"table", crest, "--every", "0+1", "-o", full + "/table.txt"},
-         "/dev/null",
-         fullDisk,
-         "cannot write '" + full + "/table.txt': " + noSpace},
-        {"ANewFileOnAFullDisk",
-         full,
-         {"table", crest, "--every", "0+1", "-o", full + "/new.txt"},
-         "/dev/null",
-         fullDisk,
-         "cannot write '" + full + "/new.txt': " + noSpace},
-        {"OverAPdfOnAFullDisk",
-         full,
-         {"report", crest, "--pdf", full + "/report.pdf"},
-         "/dev/null",
-         fullDisk,
-         "cannot write '" + full + "/report.pdf': " + noSpace},
-        {"OverAFilePastASizeLimit",
-         limited,
-         {"table", crest, "--every", "0+1", "-o", limited + "/table.txt"},
-         "/dev/null",
-         sizeLimit,
-         "cannot write '" + limited + "/table.txt': " + std::strerror(EFBIG)},
-        {"OverAPdfPastASizeLimit",
-         limited,
-         {"report", crest, "--pdf", limited + "/report.pdf"},
-         "/dev/null",
-         sizeLimit,
-         "cannot write '" + limited + "/report.pdf': " + std::strerror(EFBIG)},
-        {"StandardOutputToDevFull",
-         full,
-         {"solve", crest},
+         Words("solve " + crest),
          "/dev/full",
          {},
          std::string("cannot write to standard output: ") + std::strerror(ENOSPC)},
-        {"StandardOutputOntoAFullDisk",
-         full,
-         {"table", crest, "--every", "0+1"},
-         full + "/stdout.txt",
-         fullDisk,
-         "cannot write to standard output: " + noSpace},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         const Result r = RunProgram(c.args, c.output, c.setUp);
         EXPECT_EQ(r.status, kUsage);
         EXPECT_EQ(r.err, "gradewise-cli: " + c.message + "\n");
-        EXPECT_EQ(Read(c.folder + "/table.txt"), previous);
-        EXPECT_EQ(Read(c.folder + "/report.pdf"), previous);
         std::vector<std::string> left;
-        for (const auto& entry : std::filesystem::directory_iterator(c.folder)) {
-            if (entry.path() != c.output) left.push_back(entry.path().filename());
-        }
+        for (const auto& entry : fs::directory_iterator(c.folder)) left.push_back(entry.path().filename());
         std::sort(left.begin(), left.end());
         EXPECT_EQ(left, (std::vector<std::string>{"report.pdf", "table.txt"}));
+        EXPECT_EQ(Read(c.folder + "/table.txt"), previous);
+        EXPECT_EQ(Read(c.folder + "/report.pdf"), previous);
     }
 }
 
-TEST_F(CliTest, VersionHelpAndTheProcessExitStatus) {
-    EXPECT_EQ(RunCli({"--version"}).out, "gradewise-cli 4.3.1\n");
-    const std::string all = RunCli({"--help"}).out;
-    for (const CommandRow& row : Commands()) {
-        const std::string command = row.name;
-        SCOPED_TRACE(command);
-        EXPECT_NE(all.find("gradewise-cli " + command + " FILE"), std::string::npos);
-        const Result own = RunCli({command, "--help"});
-        EXPECT_EQ(own.status, kDone);
-        EXPECT_NE(own.out.find("gradewise-cli " + command + " FILE"), std::string::npos) << own.out;
-        for (const OptionRow& option : row.options) EXPECT_NE(own.out.find(option.help), std::string::npos);
-    }
-    EXPECT_EQ(ProcessStatus("--version"), kDone);
-    EXPECT_EQ(ProcessStatus("solve /nonexistent/curve.gwf"), kUsage);
-    EXPECT_EQ(ProcessStatus("check " + Example("english-crest.gwf") + " --speed 60"), kTooShort);
-}
-
-TEST_F(CliTest, ReportPrintsOneCopyWithLfEnds) {
-    Result r = RunCli({"report", Example("english-crest.gwf")});
-    ASSERT_EQ(r.status, kDone);
-    EXPECT_EQ(r.out.find('\r'), std::string::npos);
-    EXPECT_EQ(r.out.rfind("Gradewise ", 0), 0u);
-    EXPECT_NE(r.out.find("\nInput:   (English)\n"), std::string::npos);
-    EXPECT_NE(r.out.find("\nElevation at Station: 13+50  =  101.135\n"), std::string::npos);
-}
-
-// The printed pages as a PDF: one page per copy, read back by a PDF reader, under
-// exactly the name given, even one that is not valid UTF-8.
-TEST_F(CliTest, ReportPdfHasOnePagePerCopy) {
-    ::setenv("GRADEWISE_PDF", GW_PDF_PATH, 1);
-    const std::string pdf = Path("r\xE9sum\xE9.pdf");  // Latin-1
-    Result r = RunCli({"report", Example("metric-sag.gwf"), "--pdf", pdf, "--copies", "3"});
+// The printed pages, one per copy, from gradewise-pdf found beside gradewise-cli,
+// under exactly the name given, even one that is not valid UTF-8.
+TEST(CommandLineTest, ReportPdfHasOnePagePerCopy) {
+    Folder folder;
+    const std::string pdf = folder.File("r\xE9sum\xE9.pdf");  // Latin-1
+    const Result r = RunProgram(Words("report " + Example("metric-sag.gwf") + " --pdf " + pdf + " --copies 3"),
+                                "/dev/null", [] { ::unsetenv("GRADEWISE_PDF"); });
     ASSERT_EQ(r.status, kDone) << r.err;
-    ASSERT_TRUE(std::filesystem::exists(pdf));
-    auto run = [](const std::string& command) {
-        std::string out;
-        FILE* p = ::popen(command.c_str(), "r");
-        char buf[4096];
-        for (size_t n; (n = std::fread(buf, 1, sizeof buf, p)) > 0;) out.append(buf, n);
-        ::pclose(p);
-        return out;
-    };
-    EXPECT_NE(run("pdfinfo " + pdf).find("Pages:           3"), std::string::npos);
-    const std::string text = run("pdftotext " + pdf + " -");
-    EXPECT_NE(text.find("PVC Values"), std::string::npos);
-    EXPECT_NE(text.find("HSD 168.4886"), std::string::npos);  // blanks are rebuilt by the reader
-
-    EXPECT_EQ(RunCli({"report", Example("metric-sag.gwf"), "--pdf", pdf, "--copies", "x"}).status, kUsage);
-    EXPECT_EQ(RunCli({"report", Example("metric-sag.gwf"), "--pdf", Path("no/r.pdf")}).status, kUsage);
+    const std::string info = folder.File("info.txt");
+    ASSERT_EQ(
+        std::system(("pdfinfo '" + pdf + "' >'" + info + "' && pdftotext '" + pdf + "' - >>'" + info + "'").c_str()),
+        0);
+    const std::string text = Read(info);
+    EXPECT_NE(text.find("Pages:           3\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("HSD 168.4886"), std::string::npos) << text;
+    // Letter pages, the first line 18 mm from the top and the left.
+    ASSERT_EQ(std::system(("pdftotext -bbox '" + pdf + "' - >'" + info + "'").c_str()), 0);
+    EXPECT_NE(Read(info).find("<page width=\"612.000000\" height=\"792.000000\">\n    <word xMin=\"51.000000\" "
+                              "yMin=\"51.000469\""),
+              std::string::npos);
+    // The helper run by itself names what it cannot read.
+    const std::string helper = fs::path(GW_CLI_PATH).parent_path() / "gradewise-pdf";
+    const std::string missing = folder.File("none.gwf");
+    EXPECT_EQ(WEXITSTATUS(std::system((helper + " " + missing + " o.pdf 1 2>'" + info + "'").c_str())), kUsage);
+    EXPECT_EQ(Read(info), "gradewise-cli: cannot read '" + missing + "': No such file or directory\n");
 }
 
-TEST_F(CliTest, JsonAddsKTurningPointElevationAndSightDistanceCase) {
-    struct Case {
-        std::vector<std::string> curve;  // units, PVI station, plus, elevation, G1, G2, L
-        const char* k;
-        const char* tpElevation;
-        const char* sightCase;
-        const char* sightDistance;
-    } cases[] = {
-        // K = 400 / 4; TP x = 200: 100 + 4 - 2 = 102; S = sqrt(400 * 1329 / 4) = 364.5545 <= L
-        {{"English", "12", "0", "104", "2", "-2", "400"}, "100.0", "102.0", "S<L", "364.5545"},
-        // A = 1.5: the headlights are never stopped; K = 800 / 1.5
-        {{"English", "3", "0", "50", "-1", "0.5", "800"},
-         "533.3333",
-         "51.3333",
-         "S>L",
-         "unlimited: with A of 1.75 % or less the headlight beam never meets the road"},
-    };
-    for (const Case& c : cases) {
-        const auto& v = c.curve;
-        const Result r = RunCli(
-            {"solve", "--json",
-             Pvi(v[0].c_str(), v[1].c_str(), v[2].c_str(), v[3].c_str(), v[4].c_str(), v[5].c_str(), v[6].c_str())});
-        ASSERT_EQ(r.status, kDone) << r.err;
-        const std::string tail = std::string("  \"K\": \"") + c.k + "\",\n  \"turningPointElevation\": \"" +
-                                 c.tpElevation + "\",\n  \"sightDistanceCase\": \"" + c.sightCase +
-                                 "\",\n  \"sightDistance\": \"" + c.sightDistance + "\"\n}\n";
-        ASSERT_GE(r.out.size(), tail.size());
-        EXPECT_EQ(r.out.substr(r.out.size() - tail.size()), tail) << v[4] << " " << v[5] << " " << v[6];
-    }
-}
-
-TEST_F(CliTest, TableOfTheBundledCrestWithItsOffsets) {
-    // 100 + 0.02 x - 0.00005 x^2 + 0.5 + 12 * -0.02; x = 50: 100.875 + 0.26 = 101.135
-    const Result r = RunCli({"table", Example("english-crest.gwf"), "--every", "0+50"});
-    ASSERT_EQ(r.status, kDone) << r.err;
-    EXPECT_EQ(r.out.substr(0, r.out.find("11+00.0")),
-              "Elevations include a vertical offset of 0.5 and a horizontal offset of 12.0 at -2.0 % cross slope.\n"
-              "Station  Distance (ft)  Grade (%)  Elevation (ft)  Point\n"
-              "10+00.0            0.0        2.0          100.26  PVC\n"
-              "10+50.0           50.0        1.5         101.135\n");
-    EXPECT_NE(r.out.find("\n12+00.0          200.0        0.0          102.26  TP\n"), std::string::npos);
-    EXPECT_EQ(LastLine(r.out), "14+00.0          400.0       -2.0          100.26  PVT");
-}
-
-TEST_F(CliTest, TableAsCsvWithoutTheTwentyRowLimit) {
-    // Metric sag, PVC 1+900 at 250, -2 % to +3 % over 200 m, no offsets:
-    // every 0+005 gives 39 stations between the ends, plus PVC and PVT; the low point
-    // (x = 80) is one of them.
-    const std::string out = Path("t.csv");
-    const Result r = RunCli({"table", Example("metric-sag.gwf"), "--every", "0+5", "--csv", "-o", out});
-    ASSERT_EQ(r.status, kDone) << r.err;
-    const std::string csv = Read(out);
-    EXPECT_EQ(std::count(csv.begin(), csv.end(), '\n'), 1 + 41);
-    EXPECT_EQ(csv.substr(0, csv.find('\n', csv.find('\n') + 1) + 1),
-              "Station,Distance (m),Grade (%),Elevation (m),Point\n1+900.0,0.0,-2.0,250.0,PVC\n");
-    // x = 80: grade -2 + 5 * 80 / 200 = 0; 250 - 1.6 + 0.8 = 249.2
-    EXPECT_NE(csv.find("\n1+980.0,80.0,0.0,249.2,TP\n"), std::string::npos);
-    EXPECT_EQ(LastLine(csv), "2+100.0,200.0,3.0,251.0,PVT");
-}
-
-// A curve file is checked as the profile of its one curve, against every criterion.
-TEST_F(CliTest, CheckVerdictsAgainstHandWorkedMinimumLengths) {
-    struct Case {
-        const char* file;
-        const char* speed;
-        int status;
-        const char* criterion;  // the governing criterion's formula and minimum
-        const char* verdict;
-    } cases[] = {
-        // crest A = 4, L = 400, 50 mph, S = 425: 4 * 425^2 / 2158 = 334.8 < S, so 850 - 539.5
-        {"english-crest.gwf", "50", kDone, "L = 2 S - 2158 / A (S>L)  310.5 ft",
-         "Long enough: every curve meets every required criterion at 50 mph."},
-        // 52 mph takes the 55 mph row, S = 495: 990 - 539.5 = 450.5
-        {"english-crest.gwf", "52", kTooShort, "L = 2 S - 2158 / A (S>L)  450.5 ft",
-         "Too short: PVI 2 (the curve's PVI) needs 450.5 ft for stopping sight distance."},
-        // sag A = 5, L = 200 m, 100 km/h, S = 185: 5 * 185^2 / (120 + 647.5) = 222.9642,
-        // more than S; comfort 5 * 100^2 / 395 = 126.5823
-        {"metric-sag.gwf", "100", kTooShort, "L = A S^2 / (120 + 3.5 S) (S<L)  222.9642 m",
-         "Too short: PVI 2 (the curve's PVI) needs 222.9642 m for headlight sight distance."},
-    };
-    for (const Case& c : cases) {
-        const Result r = RunCli({"check", Example(c.file), "--speed", c.speed});
-        EXPECT_EQ(r.status, c.status) << c.speed << r.err;
-        EXPECT_NE(r.out.find(c.criterion), std::string::npos) << r.out;
-        EXPECT_EQ(LastLine(r.out), c.verdict);
-    }
-    const std::string sag = RunCli({"check", Example("metric-sag.gwf"), "--speed", "100"}).out;
-    EXPECT_NE(sag.find("L = A V^2 / 395"), std::string::npos) << sag;
-    EXPECT_NE(sag.find(" 126.5823 m "), std::string::npos) << sag;
-}
-
-TEST_F(CliTest, PlotLabelsTheCurveAndDrawsTheRows) {
-    const std::string out = Path("p.svg");
-    const Result r = RunCli({"plot", Example("english-crest.gwf"), "-o", out});
-    ASSERT_EQ(r.status, kDone) << r.err;
-    EXPECT_EQ(r.out, "");
-    const std::string svg = Read(out);
-    EXPECT_EQ(svg.rfind("<svg xmlns=\"http://www.w3.org/2000/svg\"", 0), 0u);
-    EXPECT_EQ(LastLine(svg), "</svg>");
-    for (const char* text : {">Profile of english-crest.gwf<", ">PVC 10+00.0<", ">High point 12+00.0<", "K = 100.0"}) {
-        EXPECT_NE(svg.find(text), std::string::npos) << text;
-    }
-    // Five elevation rows in the file, each one point in the rows' colour (and one more
-    // in the legend).
-    const std::string rowFill = "fill=\"#d9661f\"";
-    size_t rows = 0;
-    for (size_t at = 0; (at = svg.find(rowFill, at)) != std::string::npos; at += rowFill.size()) ++rows;
-    EXPECT_EQ(rows, 5u + 1);
-}
-
-// Curves that pass the number checks but are beyond computing or drawing: once these
-// looped for ever or printed a made-up elevation with exit 0. Now each ends at once
-// with its reason on stderr, exit 1 and no number on stdout.
-TEST_F(CliTest, CurvesBeyondComputingEndAtOnceWithAReason) {
+// gradewise-pdf as GRADEWISE_PDF names it: what it is given, and what its end means.
+TEST(CommandLineTest, ThePdfHelpersEndIsTheCommandsEnd) {
+    Folder folder;
+    const std::string F = Example("english-crest.gwf"), out = folder.File("o.pdf");
+    const std::string args = folder.File("args");
     struct Case {
         const char* name;
-        std::string file;
-        int tableStatus;
+        const char* script;  // nullptr: no helper there
+        int status;
+        std::string err;
     } cases[] = {
-        // Its two rows (PVC and PVT, 1e-12 apart) are exact to the digits shown.
-        {"LengthOf1e-12", Pvi("English", "12", "0", "104", "2", "-2", "1e-12"), kDone},
-        {"PviStationOf1e17", Pvi("English", "1000000000000000", "0", "104", "2", "-2", "400"), kRefused},
-        {"PlusPartOf1e22", Pvi("English", "12", "1e22", "104", "2", "-2", "400"), kRefused},
-        {"LengthOf1e-310", Pvi("English", "12", "0", "104", "2", "-2", "1e-310"), kRefused},
+        {"Done", "echo \"$@\" >'%s'", kDone, ""},
+        {"ItsOwnStatus", "exit 2", kUsage, ""},
+        {"KilledBySignal", "kill -9 $$", kUsage,
+         "gradewise-cli: gradewise-pdf ended without finishing the PDF (signal 9)\n"},
+        {"Missing", nullptr, kUsage,
+         "gradewise-cli: PDF output needs gradewise-pdf, which was not found beside gradewise-cli\n"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        const Result plot = RunCli({"plot", c.file});
-        EXPECT_EQ(plot.status, kRefused);
-        EXPECT_EQ(plot.out, "");
-        EXPECT_EQ(plot.err.rfind("gradewise-cli: ", 0), 0u) << plot.err;
-        const Result table = RunCli({"table", c.file, "--every", "0+50"});
-        EXPECT_EQ(table.status, c.tableStatus) << table.err;
-        EXPECT_EQ(table.out.empty(), c.tableStatus != kDone);
+        const std::string helper = folder.File(c.name);
+        if (c.script) {
+            char body[512];
+            std::snprintf(body, sizeof body, c.script, args.c_str());
+            folder.Put(c.name, std::string("#!/bin/sh\n") + body + "\n");
+            fs::permissions(helper, fs::perms::owner_all);
+        }
+        ::setenv("GRADEWISE_PDF", helper.c_str(), 1);
+        const Result r = RunCli({"report", F, "--pdf", out, "--copies", "12"});
+        ::unsetenv("GRADEWISE_PDF");
+        EXPECT_EQ(r.status, c.status);
+        EXPECT_EQ(r.err, c.err);
     }
-}
-
-TEST_F(CliTest, ARefusedCurveExitsOne) {
-    const Result zero = RunCli({"plot", Pvi("English", "12", "0", "104", "2", "-2", "0")});
-    EXPECT_EQ(zero.status, kRefused);
-    EXPECT_EQ(zero.err, "gradewise-cli: plot needs a length of curve greater than 0\n");
+    EXPECT_EQ(Read(args), F + " " + out + " 12\n");
 }
 
 }  // namespace

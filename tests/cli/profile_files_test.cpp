@@ -1,37 +1,15 @@
-// Profiles in and out: LandXML and CSV readers with the line or element of every
-// refusal, and LandXML written valid against the schema.
+// Profiles in and out: the LandXML and CSV readers with the line or element of every
+// refusal, and LandXML written valid against the schema that reads back the same.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 
-#include "cli/profile_exchange.h"
 #include "cli/profile_landxml.h"
 #include "cli/profile_source.h"
-#include "core/curve_file.h"
-#include "core/curve_solver.h"
-#include "core/elevations.h"
-#include "tests/files/temp_folder.h"
+#include "tests/cli/run_cli.h"
 
-namespace gw::cli {
+namespace gw::cli::test {
 namespace {
-
-std::string Read(const std::string& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-
-void Write(const std::string& path, const std::string& text) { std::ofstream(path, std::ios::binary) << text; }
-
-// xmllint's verdict on a document against the LandXML 1.2 schema: empty when valid.
-std::string SchemaErrors(const test::TempFolder& folder, const std::string& xml) {
-    const std::string file = folder.File("export.xml"), log = folder.File("xmllint.log");
-    Write(file, xml);
-    const std::string command = "xmllint --noout --schema '" GW_LANDXML_XSD "' '" + file + "' 2>'" + log + "'";
-    return std::system(command.c_str()) == 0 ? "" : Read(log);
-}
 
 ProfileSource Source(const std::string& name, const std::string& text) {
     return ReadProfileSource(name, text, std::nullopt);
@@ -40,43 +18,43 @@ ProfileSource Source(const std::string& name, const std::string& text) {
 std::string LandXml(const std::string& units, const std::string& profAlign) {
     return "<?xml version=\"1.0\"?>\n<LandXML xmlns=\"http://www.landxml.org/schema/LandXML-1.2\" version=\"1.2\">\n"
            "<Units>" +
-           units +
-           "</Units>\n<Alignments><Alignment name=\"A\" length=\"1\" staStart=\"0\">\n"
-           "<Profile>\n" +
-           profAlign + "</Profile></Alignment></Alignments>\n</LandXML>\n";
+           units + "</Units>\n<Alignments><Alignment name=\"A\" length=\"1\" staStart=\"0\">\n<Profile>\n" + profAlign +
+           "</Profile></Alignment></Alignments>\n</LandXML>\n";
 }
 
-const std::string kFeet = R"(<Imperial linearUnit="foot" areaUnit="squareFoot" volumeUnit="cubicYard" )"
-                          R"(temperatureUnit="fahrenheit" pressureUnit="inHG"/>)";
+const std::string kFeet = "<Imperial linearUnit=\"foot\"/>";
+const std::string kTwo = "<PVI>0 1</PVI><PVI>9 2</PVI></ProfAlign>";
 
-TEST(ProfileFilesTest, ExportsOfEveryKindOfCurveAreValidLandXmlInBothUnits) {
-    test::TempFolder folder;
-    const std::string csvBody =
-        "0+00,100\n"
-        "10+00,120,400\n"        // symmetric
-        "20+00,100,,,300,500\n"  // unsymmetrical
-        "25+00,110\n"            // a bare grade break
-        "30+00,112,,50\n"        // by K
-        "40+00,100\n";
-    for (const char* units : {"ft", "m"}) {
+// Every unit attribute the schema requires, the alignment's length and start, and each
+// kind of PVI; valid against the schema in both unit systems.
+TEST(ProfileFilesTest, ExportIsLandXmlValidAgainstTheSchema) {
+    Folder folder;
+    const std::string rows = "500,95\n1000,120,200\n2000,100,,,300,500\n2500,110\n3000,112,,50\n4000,100\n";
+    for (const char* units : {"m", "ft"}) {
         const ProfileSource s =
-            Source("p.csv", std::string("Station (") + units + "),Elevation,Length,K,Length in,Length out\n" + csvBody);
+            Source("k.csv", std::string("Station (") + units + "),Elevation,Length,K,Length in,Length out\n" + rows);
         ASSERT_TRUE(s.profile) << s.error;
-        const std::string xml = ExportLandXml(s.document, *s.profile);
-        EXPECT_EQ(SchemaErrors(folder, xml), "") << units;
-        // Read back, the same PVIs and curves.
-        const ProfileSource back = Source("back.xml", xml);
-        ASSERT_TRUE(back.profile) << back.error;
-        EXPECT_EQ(back.profile->metric(), s.profile->metric());
-        ASSERT_EQ(back.profile->pvis().size(), 6u);
-        for (size_t i = 0; i < 6; ++i) {
-            const ProfilePvi &a = s.profile->pvis()[i], &b = back.profile->pvis()[i];
-            EXPECT_EQ(b.station, a.station) << i;
-            EXPECT_EQ(b.elevation, a.elevation) << i;
-            ASSERT_EQ(b.curve.has_value(), a.curve.has_value()) << i;
-            if (!a.curve) continue;
-            EXPECT_EQ(b.curve->lengthIn(), a.curve->lengthIn()) << i;
-            EXPECT_EQ(b.curve->lengthOut(), a.curve->lengthOut()) << i;
+        const std::string xml = LandXmlText(s.document, *s.profile, "2026-01-02", "03:04:05");
+        const std::string file = folder.Put("export.xml", xml);
+        EXPECT_EQ(std::system(("xmllint --noout --schema '" GW_LANDXML_XSD "' '" + file + "'").c_str()), 0) << xml;
+        if (units[0] == 'm') {
+            EXPECT_EQ(xml,
+                      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<LandXML "
+                      "xmlns=\"http://www.landxml.org/schema/LandXML-1.2\" "
+                      "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" "
+                      "xsi:schemaLocation=\"http://www.landxml.org/schema/LandXML-1.2 "
+                      "http://www.landxml.org/schema/LandXML-1.2/LandXML-1.2.xsd\" version=\"1.2\" date=\"2026-01-02\" "
+                      "time=\"03:04:05\">\n"
+                      "  <Units>\n    <Metric areaUnit=\"squareMeter\" linearUnit=\"meter\" volumeUnit=\"cubicMeter\" "
+                      "temperatureUnit=\"celsius\" pressureUnit=\"milliBars\" elevationUnit=\"meter\" />\n  </Units>\n"
+                      "  <Application name=\"Gradewise\" version=\"4.3.1\" />\n  <Alignments>\n"
+                      "    <Alignment name=\"k\" length=\"3500\" staStart=\"500\">\n      <Profile name=\"k\">\n"
+                      "        <ProfAlign name=\"k\">\n          <PVI>500 95</PVI>\n"
+                      "          <ParaCurve length=\"200\">1000 120</ParaCurve>\n"
+                      "          <UnsymParaCurve lengthIn=\"300\" lengthOut=\"500\">2000 100</UnsymParaCurve>\n"
+                      "          <PVI>2500 110</PVI>\n          <ParaCurve length=\"80\">3000 112</ParaCurve>\n"
+                      "          <PVI>4000 100</PVI>\n        </ProfAlign>\n      </Profile>\n    </Alignment>\n"
+                      "  </Alignments>\n</LandXML>\n");
         }
     }
 }
@@ -98,47 +76,62 @@ TEST(ProfileFilesTest, ForeignLandXmlWithPrefixesAndBareBreaksIsRead) {
     EXPECT_FALSE(s.profile->pvis()[1].curve);
     EXPECT_EQ(s.profile->pvis()[2].curve->lengthOut(), 150);
     EXPECT_EQ(s.profile->pvis()[2].elevation, 49);
+    EXPECT_EQ(s.profile->pvis()[2].station, 1500);
 }
 
 TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
-    const std::string two =
-        "<ProfAlign name=\"one\"><PVI>0 1</PVI><PVI>10 2</PVI></ProfAlign>"
-        "<ProfAlign name=\"two\"><PVI>0 1</PVI><PVI>10 2</PVI></ProfAlign>";
+    const std::string two = "<ProfAlign name=\"one\">" + kTwo + "<ProfAlign name=\"two\">" + kTwo;
     struct Case {
         const char* name;
         std::string xml;
         std::string message;
     } cases[] = {
-        {"malformed", "<LandXML>\n<Units>\n</LandXML>\n", "Line 3: Start-end tags mismatch."},
-        {"circular curve",
+        {"Malformed", "<LandXML>\n<Units>\n</LandXML>\n", "Line 3: Start-end tags mismatch."},
+        {"NotLandXml", "<Profile/>", "The file is not LandXML: its root element is Profile."},
+        {"NoUnits", "<LandXML><Alignments/></LandXML>",
+         "The file has no Units element, so its feet cannot be told from metres."},
+        {"NeitherSystem", LandXml("<Other/>", ""), "Units on line 3 names neither Imperial nor Metric units."},
+        {"Inches", LandXml("<Imperial linearUnit=\"inch\"/>", ""),
+         "Imperial on line 3: a linear unit of 'inch' is not one Gradewise works in (foot, USSurveyFoot or meter)."},
+        {"MetricInFeet", LandXml("<Metric linearUnit=\"foot\"/>", ""),
+         "Metric on line 3: a linear unit of 'foot' is not one Gradewise works in (foot, USSurveyFoot or meter)."},
+        {"MixedUnits", LandXml("<Imperial linearUnit=\"USSurveyFoot\" elevationUnit=\"meter\"/>", ""),
+         "Imperial on line 3: elevations in 'meter' with stations in 'USSurveyFoot'; both must be feet or both "
+         "metres."},
+        {"NoProfile", LandXml(kFeet, ""), "The file has no profile: no ProfAlign element."},
+        {"TwoProfiles", LandXml(kFeet, two),
+         "The file has 2 profiles (ProfAlign 'one', 'two'); choose one by its name."},
+        {"StationEquation",
+         "<LandXML><Units>" + kFeet + "</Units><Alignment>\n<StaEquation/><ProfAlign name=\"P\">" + kTwo +
+             "</Alignment></LandXML>",
+         "StaEquation on line 2: station equations are not supported; the profile's stations would be read wrongly "
+         "past it."},
+        {"CircularCurve",
          LandXml(kFeet,
-                 "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<CircCurve length=\"100\" radius=\"5000\">500 2</CircCurve>"
-                 "<PVI>1000 1</PVI></ProfAlign>"),
+                 "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<CircCurve length=\"100\" radius=\"5000\">500 2"
+                 "</CircCurve><PVI>1000 1</PVI></ProfAlign>"),
          "CircCurve on line 7: circular vertical curves are not supported; Gradewise works with parabolic curves "
          "(ParaCurve, UnsymParaCurve)."},
-        {"no units", "<LandXML><Alignments/></LandXML>",
-         "The file has no Units element, so its feet cannot be told from metres."},
-        {"inches", LandXml("<Imperial linearUnit=\"inch\"/>", ""),
-         "Imperial on line 3: a linear unit of 'inch' is not one Gradewise works in (foot, USSurveyFoot or meter)."},
-        {"mixed units", LandXml("<Imperial linearUnit=\"foot\" elevationUnit=\"meter\"/>", ""),
-         "Imperial on line 3: elevations in 'meter' with stations in 'foot'; both must be feet or both metres."},
-        {"not station and elevation", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 1 2</PVI></ProfAlign>"),
+        {"NotStationAndElevation", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 1 2</PVI></ProfAlign>"),
          "PVI on line 7: expected 'station elevation', found '0 1 2'."},
-        {"no length", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<ParaCurve>5 1</ParaCurve></ProfAlign>"),
+        {"NoLength", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<ParaCurve>5 1</ParaCurve></ProfAlign>"),
          "ParaCurve on line 7 has no length."},
-        {"two profiles", LandXml(kFeet, two),
-         "The file has 2 profiles (ProfAlign 'one', 'two'); choose one by its name."},
-        {"extras for no PVI",
+        {"LengthOutNotANumber",
+         LandXml(kFeet,
+                 "<ProfAlign name=\"P\">\n<UnsymParaCurve lengthIn=\"5\" lengthOut=\"x\">5 1</UnsymParaCurve>"
+                 "</ProfAlign>"),
+         "UnsymParaCurve on line 7: lengthOut 'x' is not a number."},
+        {"ExtrasForNoPvi",
          LandXml(kFeet,
                  "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
-                 "<Property label=\"pvi\" value=\"1e300\"/></Feature></ProfAlign>"),
-         "Feature on line 7: its pvi '1e300' is not the number of a PVI."},
-        {"extras past the end",
+                 "<Property label=\"pvi\" value=\"2.5\"/></Feature></ProfAlign>"),
+         "Feature on line 7: its pvi '2.5' is not the number of a PVI."},
+        {"ExtrasPastTheEnd",
          LandXml(kFeet,
                  "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
                  "<Property label=\"pvi\" value=\"3\"/></Feature></ProfAlign>"),
          "Feature on line 7: its pvi 3 is past the last PVI of the profile, PVI 2."},
-        {"doubles back",
+        {"DoublesBack",
          LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<PVI>500 2</PVI>\n<PVI>400 2</PVI></ProfAlign>"),
          "PVI 3 (PVI on line 8) at 4+00.0 is not past PVI 2 (PVI on line 7) at 5+00.0: stations must increase "
          "along the profile."},
@@ -148,7 +141,11 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
         EXPECT_FALSE(s.profile) << c.name;
         EXPECT_EQ(s.error, c.message) << c.name;
     }
-    EXPECT_TRUE(ReadProfileSource("p.xml", LandXml(kFeet, two), std::string("two")).profile);
+    const ProfileSource named = ReadProfileSource("p.xml", LandXml(kFeet, two), std::string("two"));
+    ASSERT_TRUE(named.profile) << named.error;
+    EXPECT_EQ(named.document.name, "two");
+    EXPECT_EQ(ReadProfileSource("p.xml", LandXml(kFeet, two), std::string("three")).error,
+              "The file has no ProfAlign named 'three'; it has 'one', 'two'.");
 }
 
 TEST(ProfileFilesTest, CsvProfilesInBothUnitSystems) {
@@ -159,13 +156,13 @@ TEST(ProfileFilesTest, CsvProfilesInBothUnitSystems) {
     EXPECT_FALSE(feet.profile->metric());
     EXPECT_EQ(feet.profile->pvis()[1].station, 1550.5);
     EXPECT_EQ(feet.profile->pvis()[2].station, 2000);
-    const ProfileSource metres = Source("p.csv", "station (m),ELEVATION (m),length\n1+250.5,100\n-0+100,90\n");
-    EXPECT_FALSE(metres.profile);  // -0+100 is before 1+250.5
-    const ProfileSource m = Source("p.csv", "Station (m),Elevation (m),Length\n-0+100,90\n1+250.5,100,200\n2+000,95\n");
+    const ProfileSource m =
+        Source("p.csv", "ELEVATION (m),station (m),length in, Length Out\n90,-0+100\n100,1+250.5,0,0\n95,2+000\n");
     ASSERT_TRUE(m.profile) << m.error;
     EXPECT_TRUE(m.profile->metric());
     EXPECT_EQ(m.profile->pvis()[0].station, -100);
     EXPECT_EQ(m.profile->pvis()[1].station, 1250.5);
+    EXPECT_FALSE(m.profile->pvis()[1].curve);  // both lengths 0: a bare grade break
 }
 
 TEST(ProfileFilesTest, CsvRefusalsNameTheLineAndColumn) {
@@ -175,18 +172,28 @@ TEST(ProfileFilesTest, CsvRefusalsNameTheLineAndColumn) {
         std::string csv;
         std::string message;
     } cases[] = {
-        {"letters", header + "10+00,100\n12+00,1O4\n", "Line 3, Elevation: '1O4' is not a number."},
-        {"no units", "Station,Elevation\n", "Line 1, Station: say the units as Station (ft) or Station (m)."},
-        {"unknown column", "Station (ft),Elevation,Grade\n",
+        {"Letters", header + "10+00,100\n12+00,1O4\n", "Line 3, Elevation: '1O4' is not a number."},
+        {"NoUnits", "Station,Elevation\n", "Line 1, Station: say the units as Station (ft) or Station (m)."},
+        {"UnknownColumn", "Station (ft),Elevation,Grade\n",
          "Line 1, column 3: 'Grade' is not a column of a profile (Station, Elevation, Length, K, Length in, Length "
          "out)."},
-        {"two ways", header + "10+00,100\n12+00,104,200,50\n",
+        {"ColumnTwice", "Station (ft),Elevation,K,k\n", "Line 1, K: the column is named twice."},
+        {"UnknownUnit", "Station (yd),Elevation\n", "Line 1, Station: the unit 'yd' is neither ft nor m."},
+        {"MixedUnits", "Station (ft),Elevation (m)\n", "Line 1, Elevation: the columns mix ft and m."},
+        {"NoElevationColumn", "Station (ft),Length\n",
+         "Line 1, the header: a profile needs a Station and an Elevation column."},
+        {"NoStation", "Station (ft),Elevation\n,100\n", "Line 2, Station: the station is missing."},
+        {"NotAStation", "Station (ft),Elevation\nten,100\n", "Line 2, Station: 'ten' is not a station."},
+        {"PlusTooLong", header + "10+150,100\n", "Line 2, Station: the plus part of '10+150' must be less than 100."},
+        {"NoElevation", "Station (ft),Elevation\n10+00\n", "Line 2, Elevation: the elevation is missing."},
+        {"TwoWays", header + "10+00,100\n12+00,104,200,50\n",
          "Line 3, the row gives its curve more than one way; give a Length, a K, or a Length in with a Length out."},
-        {"half unsymmetrical", header + "10+00,100\n12+00,104,,,200\n",
+        {"HalfUnsymmetrical", header + "10+00,100\n12+00,104,,,200\n",
          "Line 3, Length out: an unsymmetrical curve needs both lengths."},
-        {"plus too long", header + "10+150,100\n", "Line 2, Station: the plus part of '10+150' must be less than 100."},
-        {"too many cells", "Station (ft),Elevation\n10+00,100,5\n", "Line 2, the row has 3 cells; the header names 2."},
-        {"empty", "# nothing\n", "The file is empty: a profile needs a header row and a row for each PVI."},
+        {"OtherHalf", header + "10+00,100\n12+00,104,,,,200\n",
+         "Line 3, Length in: an unsymmetrical curve needs both lengths."},
+        {"TooManyCells", "Station (ft),Elevation\n10+00,100,5\n", "Line 2, the row has 3 cells; the header names 2."},
+        {"Empty", "# nothing\n", "The file is empty: a profile needs a header row and a row for each PVI."},
     };
     for (const Case& c : cases) {
         const ProfileSource s = Source("p.csv", c.csv);
@@ -195,24 +202,27 @@ TEST(ProfileFilesTest, CsvRefusalsNameTheLineAndColumn) {
     }
 }
 
-TEST(ProfileFilesTest, AFileWithoutItsKindInItsNameIsToldByItsFirstCharacter) {
+TEST(ProfileFilesTest, AFileIsToldByItsExtensionElseByItsFirstCharacter) {
+    const std::string curve = Read(Example("english-crest.gwf"));
+    const std::string xml = LandXml(kFeet, "<ProfAlign name=\"P\">" + kTwo);
+    struct Case {
+        const char* path;
+        std::string bytes;
+        InputKind kind;
+    } cases[] = {
+        {"a/p.XML", "", InputKind::LandXml},      {"a/p.Csv", "<", InputKind::Csv},
+        {"a/p.gwf", "", InputKind::CurveFile},    {"a.xml/p", " \n<", InputKind::LandXml},
+        {"a.xml/p", curve, InputKind::CurveFile}, {"p", "Station", InputKind::Csv},
+    };
+    for (const Case& c : cases) EXPECT_EQ(KindOf(c.path, c.bytes), c.kind) << c.path << " " << c.bytes;
     const ProfileSource csv = Source("profiles/ramp", "Station (ft),Elevation\n0+00,100\n5+00,110\n");
     ASSERT_TRUE(csv.profile) << csv.error;
     EXPECT_EQ(csv.document.name, "ramp");
-    EXPECT_TRUE(
-        Source("profiles/ramp", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI></ProfAlign>"))
-            .profile);
-    std::ifstream example(GW_EXAMPLES_DIR "/english-crest.gwf", std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(example), {});
-    EXPECT_TRUE(Source("curve.txt", bytes).profile);
-}
-
-TEST(ProfileFilesTest, ACurveFileTheProgramRefusesIsRefused) {
+    EXPECT_TRUE(Source("profiles/ramp", xml).profile);
+    EXPECT_TRUE(Source("curve.txt", curve).profile);
     // Only its first line: both options read as off, so Calc takes the PVC/PVT mode.
-    const ProfileSource s = Source("c.gwf", "\"\",\"English\",,,,\"\"\r\n");
-    EXPECT_FALSE(s.profile);
-    EXPECT_EQ(s.error, "PVC Station needs to be entered.");
+    EXPECT_EQ(Source("c.gwf", "\"\",\"English\",,,,\"\"\r\n").error, "PVC Station needs to be entered.");
 }
 
 }  // namespace
-}  // namespace gw::cli
+}  // namespace gw::cli::test
