@@ -115,6 +115,11 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
                  "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
                  "<Property label=\"pvi\" value=\"2.5\"/></Feature></ProfAlign>"),
          "Feature on line 7: its pvi '2.5' is not the number of a PVI."},
+        {"ExtrasForPviZero",
+         LandXml(kFeet,
+                 "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
+                 "<Property label=\"pvi\" value=\"0\"/></Feature></ProfAlign>"),
+         "Feature on line 7: its pvi '0' is not the number of a PVI."},
         {"ExtrasPastTheEnd",
          LandXml(kFeet,
                  "<ProfAlign name=\"P\"><PVI>0 1</PVI><PVI>9 2</PVI>\n<Feature name=\"gradewise-curve-file\">"
@@ -181,6 +186,8 @@ TEST(ProfileFilesTest, CsvRefusalsNameTheLineAndColumn) {
          "Line 3, Length out: an unsymmetrical curve needs both lengths."},
         {"OtherHalf", header + "10+00,100\n12+00,104,,,,200\n",
          "Line 3, Length in: an unsymmetrical curve needs both lengths."},
+        {"OneLengthZero", header + "10+00,100\n12+00,104,,,1,0\n20+00,100\n",
+         "The unsymmetrical curve at PVI 2 (line 3) needs both lengths greater than 0, not 1.0 and 0.0."},
         {"TooManyCells", "Station (ft),Elevation\n10+00,100,5\n", "Line 2, the row has 3 cells; the header names 2."},
         {"Empty", "# nothing\n", "The file is empty: a profile needs a header row and a row for each PVI."},
     };
