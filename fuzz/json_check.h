@@ -2,57 +2,37 @@
 // Whether a text is one well-formed JSON value (RFC 8259), for the fuzz targets that
 // check what the commands print.
 
-#include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace gw::fuzz {
 
-class JsonCheck {
-public:
+struct JsonCheck {
     static bool Valid(std::string_view text) {
-        JsonCheck c(text);
-        c.Space();
-        if (!c.Value(0)) return false;
-        c.Space();
-        return c.m_at == text.size();
+        JsonCheck c{text};
+        return c.Value(0) && (c.Space(), c.m_at == text.size());
     }
 
-private:
-    explicit JsonCheck(std::string_view text) : m_text(text) {}
-
-    bool More() const { return m_at < m_text.size(); }
-    char Peek() const { return More() ? m_text[m_at] : '\0'; }
-    bool Eat(char c) {
-        if (Peek() != c) return false;
-        ++m_at;
-        return true;
-    }
-    void Space() {
-        while (More() && (Peek() == ' ' || Peek() == '\n' || Peek() == '\r' || Peek() == '\t')) ++m_at;
-    }
-    bool Word(std::string_view w) {
-        if (m_text.substr(m_at, w.size()) != w) return false;
-        m_at += w.size();
-        return true;
-    }
+    char Peek() const { return m_at < m_text.size() ? m_text[m_at] : '\0'; }
+    bool Eat(char c) { return Peek() == c && c != '\0' && ++m_at; }
+    bool Digit() const { return Peek() >= '0' && Peek() <= '9'; }
     bool Digits() {
         const size_t start = m_at;
-        while (Peek() >= '0' && Peek() <= '9') ++m_at;
+        while (Digit()) ++m_at;
         return m_at > start;
+    }
+    void Space() {
+        while (Peek() != '\0' && std::strchr(" \n\r\t", Peek())) ++m_at;
     }
     bool Number() {
         Eat('-');
         if (!Eat('0') && !Digits()) return false;
         if (Eat('.') && !Digits()) return false;
-        if (Eat('e') || Eat('E')) {
-            if (!Eat('+')) Eat('-');
-            if (!Digits()) return false;
-        }
-        return true;
+        return !(Eat('e') || Eat('E')) || ((Eat('+') || Eat('-')), Digits());
     }
     bool String() {
         if (!Eat('"')) return false;
-        while (More() && Peek() != '"') {
+        while (m_at < m_text.size() && Peek() != '"') {
             const auto c = static_cast<unsigned char>(m_text[m_at++]);
             if (c < 0x20) return false;
             if (c != '\\') continue;
@@ -60,37 +40,36 @@ private:
             ++m_at;
             if (e == 'u') {
                 for (int i = 0; i < 4; ++i, ++m_at) {
-                    const char h = Peek();
-                    if (!((h >= '0' && h <= '9') || (h >= 'a' && h <= 'f') || (h >= 'A' && h <= 'F'))) return false;
+                    if (Peek() == '\0' || !std::strchr("0123456789abcdefABCDEF", Peek())) return false;
                 }
-            } else if (std::string_view("\"\\/bfnrt").find(e) == std::string_view::npos) {
+            } else if (e == '\0' || !std::strchr("\"\\/bfnrt", e)) {
                 return false;
             }
         }
         return Eat('"');
     }
-    template <typename Item>
-    bool List(char close, Item item, int depth) {
+    // A list of items between `open` and `close`, each a value or, in an object, a
+    // string, a colon and a value.
+    bool List(char close, bool object, int depth) {
         Space();
         if (Eat(close)) return true;
         do {
             Space();
-            if (!item(depth)) return false;
+            if (object && !(String() && (Space(), Eat(':')))) return false;
+            if (!Value(depth + 1)) return false;
             Space();
         } while (Eat(','));
         return Eat(close);
     }
     bool Value(int depth) {
+        Space();
         if (depth > 64) return false;
-        if (Eat('{')) {
-            return List(
-                '}', [this](int d) { return String() && (Space(), Eat(':')) && (Space(), Value(d + 1)); }, depth);
-        }
-        if (Eat('['))
-            return List(
-                ']', [this](int d) { return Value(d + 1); }, depth);
+        if (Eat('{')) return List('}', true, depth);
+        if (Eat('[')) return List(']', false, depth);
         if (Peek() == '"') return String();
-        if (Word("true") || Word("false") || Word("null")) return true;
+        for (std::string_view word : {"true", "false", "null"}) {
+            if (m_text.substr(m_at, word.size()) == word) return (m_at += word.size()), true;
+        }
         return Number();
     }
 
