@@ -15,9 +15,10 @@ TEST(CurveCommandsTest, ReportIsOneCopyWithLineFeeds) {
     EXPECT_NE(r.out.find("\nElevation at Station: 13+50  =  101.135\n"), std::string::npos);
 }
 
-// Labels moved off their points with leaders, above and below, among elevation rows; the
-// sag's last row lies off the curve, and the rows stop there as the elevations window
-// stops. The drawings were checked against the curves.
+// Labels moved off their points with leaders, above and below, clear of the points'
+// marks and among elevation rows; the sag's last row lies off the curve, and the rows
+// stop there as the elevations window stops. The drawings were checked against the
+// curves.
 TEST(CurveCommandsTest, PlotsComparedWhole) {
     struct Case {
         const char *input, *drawing;
@@ -26,6 +27,7 @@ TEST(CurveCommandsTest, PlotsComparedWhole) {
     } cases[] = {
         {"sag.gwf", "sag-plot.svg", kStationOffCurve, "Top of Slab Station must be between PVC and PVT stations.\n"},
         {"crest.gwf", "crest-plot.svg", kDone, ""},
+        {"long-sag.gwf", "long-sag-plot.svg", kDone, ""},
     };
     for (const Case& c : cases) {
         const Result r = RunCli("plot " GW_SOURCE_DIR "/tests/cli/inputs/" + std::string(c.input));
