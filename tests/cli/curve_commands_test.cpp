@@ -28,6 +28,7 @@ TEST(CurveCommandsTest, PlotsComparedWhole) {
         {"sag.gwf", "sag-plot.svg", kStationOffCurve, "Top of Slab Station must be between PVC and PVT stations.\n"},
         {"crest.gwf", "crest-plot.svg", kDone, ""},
         {"long-sag.gwf", "long-sag-plot.svg", kDone, ""},
+        {"metric-crest.gwf", "metric-crest-plot.svg", kDone, ""},
     };
     for (const Case& c : cases) {
         const Result r = RunCli("plot " GW_SOURCE_DIR "/tests/cli/inputs/" + std::string(c.input));

@@ -91,9 +91,9 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
         {"TwoProfiles", LandXml(kFeet, two),
          "The file has 2 profiles (ProfAlign 'one', 'two'); choose one by its name."},
         {"StationEquation",
-         "<LandXML><Units>" + kFeet + "</Units><Alignment>\n<StaEquation/><ProfAlign name=\"P\">" + kTwo +
+         "\n<LandXML><Units>" + kFeet + "</Units><Alignment>\n<StaEquation/><ProfAlign name=\"P\">" + kTwo +
              "</Alignment></LandXML>",
-         "StaEquation on line 2: station equations are not supported; the profile's stations would be read wrongly "
+         "StaEquation on line 3: station equations are not supported; the profile's stations would be read wrongly "
          "past it."},
         {"CircularCurve",
          LandXml(kFeet,
@@ -103,6 +103,8 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
          "(ParaCurve, UnsymParaCurve)."},
         {"NotStationAndElevation", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 1 2</PVI></ProfAlign>"),
          "PVI on line 7: expected 'station elevation', found '0 1 2'."},
+        {"ElevationNotANumber", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 x</PVI></ProfAlign>"),
+         "PVI on line 7: expected 'station elevation', found '0 x'."},
         {"NoLength", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<ParaCurve>5 1</ParaCurve></ProfAlign>"),
          "ParaCurve on line 7 has no length."},
         {"LengthOutNotANumber",
