@@ -34,6 +34,21 @@ TEST(CommandLineTest, BadArgumentsGoToStandardErrorWithExitTwo) {
     EXPECT_EQ(values.out, "");
 }
 
+// A curve file is read to its first 4 MiB, as the desktop reads it; a profile that
+// large is refused before it is read.
+TEST(CommandLineTest, HugeFiles) {
+    Folder folder;
+    const std::string curve = folder.Put("huge.gwf", Read(Example("english-crest.gwf")) + std::string(5 << 20, ' '));
+    const Result solved = RunCli("solve " + curve);
+    EXPECT_EQ(solved.status, kDone) << solved.err;
+    EXPECT_EQ(solved.out.substr(0, solved.out.find('\n')), "\"SSD\",\"English\",,,,\"0\"\r");
+    const std::string csv =
+        folder.Put("huge.csv", "Station (ft),Elevation\n0+00,100\n10+00,110\n" + std::string(4 << 20, '#'));
+    const Result profile = RunCli("profile " + csv);
+    EXPECT_EQ(profile.status, kUsage);
+    EXPECT_EQ(profile.err, "gradewise-cli: '" + csv + "' is larger than 4 MiB, more than a profile holds\n");
+}
+
 // A refusal writes nothing, not even an empty output file; a row off the curve still
 // writes the curve as far as it was computed.
 TEST(CommandLineTest, RefusalsExitWithTheirStatusAndReason) {
