@@ -105,6 +105,8 @@ TEST(ProfileFilesTest, LandXmlRefusalsNameTheLineOrElement) {
          "PVI on line 7: expected 'station elevation', found '0 1 2'."},
         {"ElevationNotANumber", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>0 x</PVI></ProfAlign>"),
          "PVI on line 7: expected 'station elevation', found '0 x'."},
+        {"StationNotANumber", LandXml(kFeet, "<ProfAlign name=\"P\">\n<PVI>x 1</PVI></ProfAlign>"),
+         "PVI on line 7: expected 'station elevation', found 'x 1'."},
         {"NoLength", LandXml(kFeet, "<ProfAlign name=\"P\"><PVI>0 1</PVI>\n<ParaCurve>5 1</ParaCurve></ProfAlign>"),
          "ParaCurve on line 7 has no length."},
         {"LengthOutNotANumber",
